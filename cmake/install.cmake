@@ -1,0 +1,27 @@
+# What an installation holds: the headers, the libraries, and the descriptions by which CMake and pkg-config find them.
+include(CMakePackageConfigHelpers)
+
+set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/orbchart")
+
+install(TARGETS orbchart quvaiocv EXPORT orbchartTargets)
+install(DIRECTORY orbchart/include/ quvaiocv/include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/orbchart"
+        FILES_MATCHING PATTERN "*.h")
+
+install(EXPORT orbchartTargets NAMESPACE orbchart:: DESTINATION "${package_dir}")
+configure_package_config_file(cmake/orbchartConfig.cmake.in orbchartConfig.cmake INSTALL_DESTINATION "${package_dir}"
+                              NO_SET_AND_CHECK_MACRO)
+# Before 1.0 a minor version may change the interface.
+write_basic_package_version_file(orbchartConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/orbchartConfig.cmake"
+              "${CMAKE_CURRENT_BINARY_DIR}/orbchartConfigVersion.cmake" DESTINATION "${package_dir}")
+
+# The .pc file finds the headers from where it lies itself, so that a moved installation stays whole.
+file(RELATIVE_PATH includedir_from_pc "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"
+     "${CMAKE_INSTALL_FULL_INCLUDEDIR}/orbchart")
+if(ORBCHART_QUVAIOCV_LIBRARY)
+  set(quvaiocv_link "${ORBCHART_QUVAIOCV_LIBRARY}")
+else()
+  set(quvaiocv_link "-lquvaiocv")
+endif()
+configure_file(cmake/orbchart.pc.in orbchart.pc @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/orbchart.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
