@@ -1,0 +1,86 @@
+// The base of every wrapper: the DOM element that it stands for, and the operations that all wrappers share.
+#pragma once
+
+#include "orbchartdom.h"
+#include "orbchartexport.h"
+
+#include <string>
+#include <vector>
+
+class ChartString;
+class OrbStyle;
+class OrbVisualization;
+
+/// A wrapper over one DOM element of a chart document.
+///
+/// A wrapper holds no data but the pointer to its element: what is written through it stands in the DOM at once, and
+/// what is read comes from there. It owns nothing of the DOM, and ending a wrapper does not touch the DOM.
+class ORBCHART_EXPORT OrbBaseElement {
+public:
+  explicit OrbBaseElement(xercesc::DOMElement* element);
+  /// A second wrapper over the same element.
+  OrbBaseElement(const OrbBaseElement& other);
+  OrbBaseElement& operator=(const OrbBaseElement&) = delete;
+
+  virtual ~OrbBaseElement();
+
+  /// The element and everything under it as text in the encoding of the document, which is UTF-8 unless the document
+  /// names another: indented, without XML declaration, with a line feed at the end.
+  virtual std::string AsUTF8() const;
+
+  xercesc::DOMElement* getImplementation() const;
+
+  /// The text of an attribute in the DOM's own buffer; the empty string when the attribute is absent.
+  const XMLCh* GetAttribute(const XMLCh* name) const;
+
+  /// Writes an attribute, in place of one of the same name, and returns it.
+  ///
+  /// A null or empty value, and a name that XML does not allow, write nothing and return null: the attribute that
+  /// stands there keeps its value. The replaced attribute node goes back to the document.
+  xercesc::DOMAttr* AddAttribute(const XMLCh* name, const XMLCh* value);
+  /// The same as AddAttribute.
+  xercesc::DOMAttr* SetAttribute(const XMLCh* name, const XMLCh* value);
+
+  /// Adds a copy of each attribute of another node and returns how many that node has. An attribute with an empty
+  /// value is counted and not copied.
+  unsigned int importAttributes(const xercesc::DOMNode* from);
+
+  /// Writes the `id` attribute and registers it, so that the document finds this element by it.
+  ///
+  /// Nothing is thrown for an id that is in use already: the second element is accepted. Where the parents of the two
+  /// elements have different names, the log gets "Attempting to add an existing ID to an element (<id>)" and both
+  /// places; else nothing says so.
+  void addID(const XMLCh* id);
+  bool doesIdExist(const XMLCh* id) const;
+
+  /// The element that carries an id; null when none does. An element of a parsed document is found only if its `id`
+  /// was marked as an ID attribute, by a validating parser or by `DOMElement::setIdAttribute`.
+  xercesc::DOMElement* getElementById(const XMLCh* id) const;
+  /// The style that carries an id; null when no style does.
+  OrbStyle* getStyleById(const XMLCh* id) const;
+  /// The wrapper of the document element; null when there is none.
+  OrbVisualization* getVisualization() const;
+
+  /// Puts a new child of this element in its place: directly before the first child element that is the element of one
+  /// of the followers, else last. A null child does nothing.
+  void InsertBefore(xercesc::DOMElement* child, std::vector<OrbBaseElement*>& followers);
+
+  /// Takes the child's element out of this element; false for null and for a child of another element. The wrapper
+  /// lives on and stays where it is held.
+  bool removeChildElement(OrbBaseElement* child);
+
+  /// Puts a comment ahead of all children. A null or empty text, and one with "--" in it, does nothing.
+  void setComment(const XMLCh* text);
+
+  /// Raises "Can not add a <child> to a <parent> because <count> <existing>(s) already exist(s)." when count is above
+  /// the limit.
+  void throwIfChildExists(unsigned long count, unsigned long limit, const std::string& existing,
+                          const std::string& child, const std::string& parent, const std::string& file,
+                          unsigned int line) const;
+
+  /// The text "Element <tag> found unknown child <name>(<xml>)", with this whole element as its XML.
+  ChartString ChildNotFoundError(const XMLCh* name) const;
+
+private:
+  xercesc::DOMElement* element_;
+};

@@ -1,0 +1,67 @@
+// The child families of a wrapper: what is the same for all classes.
+#include "family.h"
+
+#include "orbuni.h"
+#include "placement.h"
+#include "raise.h"
+
+#include <xercesc/dom/DOMDocument.hpp>
+
+using xercesc::DOMElement;
+using xercesc::DOMNode;
+
+namespace orbchart {
+namespace {
+
+thread_local std::vector<OrbBaseElement*>* waiting = nullptr;
+
+} // namespace
+
+void OnlyOne::check(const OrbBaseElement& wrapper, std::size_t count) const {
+  if (count != 0)
+    wrapper.throwIfChildExists(count, 0, child, child, parent, file, line);
+}
+
+void AtMost::check(const OrbBaseElement& /*wrapper*/, std::size_t count) const {
+  if (count >= limit)
+    raise(message, file, line);
+}
+
+void discard(OrbBaseElement* wrapper) {
+  if (waiting != nullptr) {
+    waiting->push_back(wrapper);
+    return;
+  }
+  std::vector<OrbBaseElement*> owned;
+  waiting = &owned;
+  delete wrapper;
+  while (!owned.empty()) {
+    const OrbBaseElement* next = owned.back();
+    owned.pop_back();
+    delete next;
+  }
+  waiting = nullptr;
+}
+
+void takeOut(const OrbBaseElement& parent, const OrbBaseElement& child, Ids ids) {
+  DOMElement* element = child.getImplementation();
+  if (ids == Ids::strip)
+    element->removeAttribute(OrbUni::_id);
+  if (element->getParentNode() == parent.getImplementation())
+    parent.getImplementation()->removeChild(element);
+  unbindTree(*element);
+}
+
+NewChild::NewChild(const OrbBaseElement& parent, const XMLCh* name, std::span<DOMNode* const> followers) :
+    parent_(parent.getImplementation()), element_(parent_->getOwnerDocument()->createElement(name)) {
+  insertBeforeFirst(*parent_, *element_, followers.data(), followers.size());
+}
+
+NewChild::~NewChild() {
+  if (parent_ == nullptr)
+    return;
+  parent_->removeChild(element_);
+  unbindTree(*element_);
+}
+
+} // namespace orbchart
