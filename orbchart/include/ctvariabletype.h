@@ -1,0 +1,97 @@
+// What all variables share.
+#pragma once
+
+#include "orbbaseelement.h"
+
+#include <memory>
+
+/// A variable: the named column that graphs, aesthetics, statistics and sorts speak of, through its id.
+///
+/// The library evaluates nothing of it: what is written is stored unchanged. A load passes over child elements that it
+/// does not know.
+class ORBCHART_EXPORT CTVariableType : public OrbBaseElement {
+public:
+  static constexpr XMLCh _UTF_dependsOn[] = u"dependsOn";
+  static constexpr XMLCh _UTF_measurementLevel[] = u"measurementLevel";
+  static constexpr XMLCh _UTF_measurementLevel_nominal[] = u"nominal";
+  static constexpr XMLCh _UTF_measurementLevel_ordinal[] = u"ordinal";
+  static constexpr XMLCh _UTF_measurementLevel_ratio[] = u"ratio";
+
+  enum ENUM_measurementLevel : int {
+    measurementLevel_unset = 0,
+    measurementLevel_nominal = 1,
+    measurementLevel_ordinal = 2,
+    measurementLevel_interval = 3,
+    measurementLevel_ratio = 4,
+  };
+
+  ~CTVariableType() override;
+
+  const XMLCh* getId() const;
+  void setId(const XMLCh* id);
+  void removeId();
+
+  /// The name that is shown for the variable.
+  const XMLCh* getLabel() const;
+  void setLabel(const XMLCh* label);
+  void removeLabel();
+
+  const XMLCh* getShortLabel() const;
+  void setShortLabel(const XMLCh* shortLabel);
+  void removeShortLabel();
+
+  const XMLCh* getDescription() const;
+  void setDescription(const XMLCh* description);
+  void removeDescription();
+
+  const XMLCh* getCreator() const;
+  void setCreator(const XMLCh* creator);
+  void removeCreator();
+
+  /// The id of the source that the variable comes from: text when read, and written from the source's own id, whatever
+  /// its class.
+  const XMLCh* getSource() const;
+  void setSource(const OrbBaseElement& source);
+  void removeSource();
+
+  /// The variable that this one depends on: a source, derived or expression variable, else null. A multiple response
+  /// variable can be written and reads as null.
+  CTVariableType* getDependsOn() const;
+  void setDependsOn(const CTVariableType& variable);
+  bool isDependsOnPresent() const;
+  void removeDependsOn();
+
+  /// The variable whose values label this one's. The getter is always null: no wrapper registers the key that it looks
+  /// under. The id is read from the DOM.
+  CTVariableType* getLabelVariable() const;
+  void setLabelVariable(const CTVariableType& variable);
+  void removeLabelVariable();
+
+  /// How the values may be compared; 0 when absent.
+  ENUM_measurementLevel getMeasurementLevel() const;
+  void setMeasurementLevel(ENUM_measurementLevel level);
+  bool isMeasurementLevelPresent() const;
+  void removeMeasurementLevel();
+
+  /// Whether the values are categories; false when absent. Once written it cannot be removed.
+  bool getCategorical() const;
+  void setCategorical(bool categorical);
+
+  /// Whether the values identify the rows; false when absent.
+  bool getKey() const;
+  void setKey(bool key);
+  void removeKey();
+
+  /// Whether the values weigh the rows; false when absent.
+  bool getWeight() const;
+  void setWeight(bool weight);
+  void removeWeight();
+
+protected:
+  explicit CTVariableType(xercesc::DOMElement* element);
+  CTVariableType(xercesc::DOMElement* element, const XMLCh* id);
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
+};

@@ -1,0 +1,44 @@
+// A chart document: the DOM and the root wrapper over it.
+#pragma once
+
+#include "orbchartdom.h"
+#include "orbchartexport.h"
+
+#include <string>
+
+class OrbVisualization;
+
+/// What a host holds of a chart. The XML platform is up while it lives.
+class ORBCHART_EXPORT OrbDocument {
+public:
+  /// A new, empty document, which goes with this object.
+  OrbDocument();
+
+  /// Wraps a DOM that the host's parser made. The host keeps the DOM and its parser, and keeps both until this object
+  /// has gone.
+  ///
+  /// The whole tree is wrapped at once. An unknown element raises the text of OrbBaseElement::ChildNotFoundError,
+  /// elements nested too deep raise "Elements are nested more than 10240 levels deep below visualization."; a null
+  /// pointer, a document without a root and a root of another name raise what they are. When it raises, the DOM is as
+  /// it was.
+  ///
+  /// References find only elements whose `id` was marked as an ID attribute: by a parser that validates, or by the
+  /// host with `DOMElement::setIdAttribute` before this call or after.
+  explicit OrbDocument(xercesc::DOMDocument* document);
+
+  OrbDocument(const OrbDocument&) = delete;
+  OrbDocument& operator=(const OrbDocument&) = delete;
+  virtual ~OrbDocument();
+
+  virtual OrbVisualization* GetVisualization();
+
+  xercesc::DOMDocument* getImplementation() const;
+
+  /// The whole document as text, indented and with XML declaration.
+  std::string AsUTF8() const;
+
+private:
+  xercesc::DOMDocument* document_;
+  OrbVisualization* visualization_;
+  bool ownsDocument_;
+};

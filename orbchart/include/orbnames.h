@@ -1,0 +1,22 @@
+// The variable names of an embedded source, element `names`.
+#pragma once
+
+#include "chartstring.h"
+#include "orbbaseelement.h"
+
+/// The variable names of an embedded source, separated as the fields of a row are; the library does not read them.
+class ORBCHART_EXPORT OrbNames : public OrbBaseElement {
+public:
+  static constexpr XMLCh _UTF_names[] = u"names";
+  static constexpr const XMLCh* elementName = _UTF_names;
+
+  explicit OrbNames(xercesc::DOMElement* element);
+  ~OrbNames() override;
+
+  /// The text of the element: its first text node, empty when there is none. Setting it removes the old text and
+  /// puts the new one behind whatever other children there are; of two neighbouring text nodes a remove leaves the
+  /// second.
+  ChartString getText() const;
+  void setText(const XMLCh* text);
+  void removeText();
+};

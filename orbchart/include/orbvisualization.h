@@ -1,0 +1,118 @@
+// The root of a chart document, element `visualization`.
+#pragma once
+
+#include "orbbaseelement.h"
+
+#include <memory>
+
+class OrbDerivedVariable;
+class OrbEmbeddedSource;
+class OrbExpressionVariable;
+class OrbGraph;
+class OrbMultipleResponseVariable;
+class OrbSourceVariable;
+
+/// The root element: everything that other elements refer to by id (sources, variables) hangs from it.
+///
+/// The add operations keep the children in bands: sources, then variables, then graphs. Within a band a new element
+/// goes last, whatever its kind. Nothing is counted, and a load takes any order.
+class ORBCHART_EXPORT OrbVisualization : public OrbBaseElement {
+public:
+  static constexpr XMLCh _UTF_visualization[] = u"visualization";
+  static constexpr const XMLCh* elementName = _UTF_visualization;
+
+  /// Wraps the element and everything under it. A child element of another name, at any depth, raises the text of
+  /// ChildNotFoundError.
+  explicit OrbVisualization(xercesc::DOMElement* element);
+  /// The same, and then writes the id and the version.
+  OrbVisualization(xercesc::DOMElement* element, double version, const XMLCh* id);
+  ~OrbVisualization() override;
+
+  /// The whole document as text, indented and with XML declaration.
+  std::string AsUTF8() const override;
+
+  /// Registers the root and wraps its children. The constructors call it; a further call wraps the children again.
+  void init();
+  /// Wraps one node among the children of the root. Null, and what is not an element, does nothing.
+  void initWithChildren(xercesc::DOMNode* node);
+
+  /// The id of the document.
+  const XMLCh* getId() const;
+  void setId(const XMLCh* id);
+  void removeId();
+
+  /// The version of the language that the document is written in; 0.0 when absent. A new document has none.
+  double getVersion() const;
+  void setVersion(double version);
+
+  /// The language of the document's texts.
+  const XMLCh* getLang() const;
+  void setLang(const XMLCh* lang);
+  void removeLang();
+
+  const XMLCh* getName() const;
+  void setName(const XMLCh* name);
+  void removeName();
+
+  const XMLCh* getAuthor() const;
+  void setAuthor(const XMLCh* author);
+  void removeAuthor();
+
+  const XMLCh* getDescription() const;
+  void setDescription(const XMLCh* description);
+  void removeDescription();
+
+  /// The program that made the document.
+  const XMLCh* getCreator() const;
+  void setCreator(const XMLCh* creator);
+  void removeCreator();
+
+  const XMLCh* getDate() const;
+  void setDate(const XMLCh* date);
+  void removeDate();
+
+  const XMLCh* getType() const;
+  void setType(const XMLCh* type);
+  void removeType();
+
+  /// Whether the drawing is cut at the edge; false when absent.
+  bool getClip() const;
+  void setClip(bool clip);
+  void removeClip();
+
+  /// Sources whose rows stand in the document.
+  OrbEmbeddedSource* addEmbeddedSource(const XMLCh* id);
+  std::vector<OrbEmbeddedSource*> getEmbeddedSources() const;
+  unsigned int removeEmbeddedSources();
+
+  /// Variables read from a source. Removing a single one leaves its id registered, and answers false for a variable
+  /// that is not a child here.
+  OrbSourceVariable* addSourceVariable(const XMLCh* id);
+  std::vector<OrbSourceVariable*> getSourceVariables() const;
+  unsigned int removeSourceVariables();
+  bool removeSourceVariable(OrbSourceVariable& variable);
+
+  /// Variables computed from others. Removing a single one is as for a source variable.
+  OrbDerivedVariable* addDerivedVariable(const XMLCh* id);
+  std::vector<OrbDerivedVariable*> getDerivedVariables() const;
+  unsigned int removeDerivedVariables();
+  bool removeDerivedVariable(OrbDerivedVariable& variable);
+
+  /// Variables that an expression defines.
+  OrbExpressionVariable* addExpressionVariable(const XMLCh* id);
+  std::vector<OrbExpressionVariable*> getExpressionVariables() const;
+  unsigned int removeExpressionVariables();
+
+  /// Sets of variables that together hold the answers to one question.
+  OrbMultipleResponseVariable* addMultipleResponseVariable();
+  std::vector<OrbMultipleResponseVariable*> getMultipleResponseVariables() const;
+  unsigned int removeMultipleResponseVariables();
+
+  OrbGraph* addGraph(const XMLCh* id);
+  std::vector<OrbGraph*> getGraphs() const;
+  unsigned int removeGraphs();
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
+};

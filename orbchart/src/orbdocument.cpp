@@ -1,0 +1,66 @@
+// A chart document.
+#include "orbdocument.h"
+
+#include "chartstring.h"
+#include "loading.h"
+#include "orbutility.h"
+#include "orbvisualization.h"
+#include "raise.h"
+
+#include <xercesc/dom/DOM.hpp>
+#include <xercesc/util/XMLString.hpp>
+
+using xercesc::DOMDocument;
+using xercesc::DOMElement;
+
+namespace {
+
+DOMElement* rootOf(const DOMDocument* document) {
+  if (document == nullptr)
+    orbchart::raise("There is no document to wrap: the pointer is null.");
+  DOMElement* root = document->getDocumentElement();
+  if (root == nullptr)
+    orbchart::raise("There is no chart in the document: it has no root element.");
+  if (!xercesc::XMLString::equals(root->getTagName(), OrbVisualization::elementName))
+    orbchart::raise("The root element is " + ChartString(root->getTagName()).toUTF8() + " and not visualization.");
+  return root;
+}
+
+/// The root wrapper of a document; the platform, which its caller started, goes down again when there is none.
+OrbVisualization* wrapped(const DOMDocument* document) {
+  try {
+    return new OrbVisualization(rootOf(document));
+  } catch (...) {
+    OrbUtility::Terminate();
+    throw;
+  }
+}
+
+} // namespace
+
+OrbDocument::OrbDocument() : document_(nullptr), visualization_(nullptr), ownsDocument_(true) {
+  OrbUtility::Initialize();
+  document_ = OrbUtility::CreateDocument();
+  visualization_ = wrapped(document_);
+}
+
+OrbDocument::OrbDocument(DOMDocument* document) : document_(document), visualization_(nullptr), ownsDocument_(false) {
+  OrbUtility::Initialize();
+  visualization_ = wrapped(document);
+}
+
+OrbDocument::~OrbDocument() {
+  // The order is required: the wrappers go after the DOM and the platform, and no wrapper touches the DOM any more.
+  if (ownsDocument_) {
+    orbchart::detachDeepContent(*document_);
+    document_->release();
+  }
+  OrbUtility::Terminate();
+  delete visualization_;
+}
+
+OrbVisualization* OrbDocument::GetVisualization() { return visualization_; }
+
+DOMDocument* OrbDocument::getImplementation() const { return document_; }
+
+std::string OrbDocument::AsUTF8() const { return visualization_->AsUTF8(); }

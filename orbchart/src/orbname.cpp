@@ -1,0 +1,14 @@
+// One name of a variable.
+#include "orbname.h"
+
+#include "elementtext.h"
+#include "loading.h"
+
+using namespace orbchart;
+
+OrbName::OrbName(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
+OrbName::~OrbName() = default;
+
+ChartString OrbName::getText() const { return readText(*this); }
+void OrbName::setText(const XMLCh* text) { writeText(*this, text); }
+void OrbName::removeText() { clearText(*this); }

@@ -1,0 +1,19 @@
+// Names of a variable with the scopes in which they hold.
+#include "orbvariablename.h"
+
+#include "family.h"
+#include "orbname.h"
+
+using namespace orbchart;
+
+struct OrbVariableName::Children : ChildFamilies<FamilyList<OrbName>> {};
+
+OrbVariableName::OrbVariableName(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
+  children_->load(*this);
+  bind(*this);
+}
+OrbVariableName::~OrbVariableName() = default;
+
+OrbName* OrbVariableName::addName() { return children_->add<OrbName>(*this, atEnd); }
+std::vector<OrbName*> OrbVariableName::getNames() const { return children_->all<OrbName>(); }
+unsigned int OrbVariableName::removeNames() { return children_->removeAll<OrbName>(*this); }
