@@ -103,7 +103,11 @@ DOMAttr* OrbBaseElement::AddAttribute(const XMLCh* name, const XMLCh* value) {
   }
   // The value may be the text of the attribute that is replaced: it is copied before that one is given back.
   attribute->setValue(value);
-  if (DOMAttr* replaced = element_->setAttributeNode(attribute))
+  DOMAttr* replaced = element_->getAttributeNode(name);
+  if (replaced != nullptr && replaced->isId())
+    element_->setIdAttributeNode(replaced, false); // else the document would go on finding the element by it
+  element_->setAttributeNode(attribute);
+  if (replaced != nullptr)
     replaced->release();
   return attribute;
 }
