@@ -5,12 +5,18 @@
 
 #include <memory>
 
+class CTModifier;
+class OrbAggregation;
+class OrbCategoricalDomain;
+class OrbIntervalDomain;
+
 /// A variable: the named column that graphs, aesthetics, statistics and sorts speak of, through its id.
 ///
 /// The library evaluates nothing of it: what is written is stored unchanged. A load passes over child elements that it
 /// does not know.
 class ORBCHART_EXPORT CTVariableType : public OrbBaseElement {
 public:
+  static constexpr XMLCh _UTF_domainModifier[] = u"domainModifier";
   static constexpr XMLCh _UTF_dependsOn[] = u"dependsOn";
   static constexpr XMLCh _UTF_measurementLevel[] = u"measurementLevel";
   static constexpr XMLCh _UTF_measurementLevel_nominal[] = u"nominal";
@@ -54,6 +60,20 @@ public:
   void setSource(const OrbBaseElement& source);
   void removeSource();
 
+  /// The domain of the values, of either kind in the one attribute: at most one of the two getters gives it.
+  OrbIntervalDomain* getIntervalDomain() const;
+  OrbCategoricalDomain* getCategoricalDomain() const;
+  void setDomain(const OrbIntervalDomain& domain);
+  void setDomain(const OrbCategoricalDomain& domain);
+  void removeDomain();
+
+  /// The operation that changes the domain: an exclude, intersect, replace or union, else null. A modifier of another
+  /// class writes nothing.
+  CTModifier* getDomainModifier() const;
+  void setDomainModifier(const CTModifier& modifier);
+  bool isDomainModifierPresent() const;
+  void removeDomainModifier();
+
   /// The variable that this one depends on: a source, derived or expression variable, else null. A multiple response
   /// variable can be written and reads as null.
   CTVariableType* getDependsOn() const;
@@ -86,6 +106,13 @@ public:
   bool getWeight() const;
   void setWeight(bool weight);
   void removeWeight();
+
+  /// How small categories are gathered in one, at most one such. A second add raises "Can not add a Aggregation to a
+  /// VariableType because 1 Aggregation(s) already exist(s)." with the number that there is. The arguments are the
+  /// category, the variable whose shares are compared, and the share below which a category is gathered.
+  OrbAggregation* addAggregation(const XMLCh* newCategory, const CTVariableType& sumVariable, double minFraction);
+  std::vector<OrbAggregation*> getAggregations() const;
+  unsigned int removeAggregations();
 
 protected:
   explicit CTVariableType(xercesc::DOMElement* element);

@@ -5,6 +5,9 @@
 
 #include <memory>
 
+class OrbAggregate;
+class OrbDataReduction;
+class OrbFilter;
 class OrbNames;
 class OrbRow;
 class OrbTypes;
@@ -47,6 +50,16 @@ public:
   bool isFilterToMissingPresent() const;
   void removeFilterToMissing();
 
+  /// How the rows are aggregated. There is no limit, but the getter gives the first alone; a remove takes all.
+  OrbAggregate* addAggregate();
+  OrbAggregate* getAggregate() const;
+  unsigned int removeAggregate();
+
+  /// Which rows are used.
+  OrbFilter* addFilter();
+  std::vector<OrbFilter*> getFilters() const;
+  unsigned int removeFilters();
+
   /// The names of the variables, at most one. A second add raises "Can not add a Names to a EmbeddedSource because 1
   /// Names(s) already exist(s)." with the number that there is.
   OrbNames* addNames();
@@ -65,6 +78,11 @@ public:
   OrbRow* addRow();
   std::vector<OrbRow*> getRows() const;
   unsigned int removeRows();
+
+  /// How the rows are reduced in number. A new one goes last, and a later row does not look at it.
+  OrbDataReduction* addDataReduction();
+  std::vector<OrbDataReduction*> getDataReductions() const;
+  unsigned int removeDataReductions();
 
 private:
   struct Children;

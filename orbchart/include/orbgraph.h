@@ -5,12 +5,32 @@
 
 #include <memory>
 
-/// One graph: the centre of a chart description.
+class CTElementType;
+class OrbArea;
+class OrbCoordinates;
+class OrbDimension;
+class OrbEdge;
+class OrbFaceting;
+class OrbInterval;
+class OrbLine;
+class OrbPath;
+class OrbPoint;
+class OrbPolygon;
+class OrbSchema;
+class OrbStyle;
+
+/// One graph: a coordinate frame with its faceting and the graphic elements that are drawn in it.
+///
+/// The add operations keep the children in bands: coordinates, then the faceting, then the graphic elements. Within a
+/// band a new child goes last, whatever its kind. A load takes any order and any number.
 class ORBCHART_EXPORT OrbGraph : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_graph[] = u"graph";
   static constexpr const XMLCh* elementName = _UTF_graph;
 
+  static constexpr XMLCh _UTF_cellStyle[] = u"cellStyle";
+  static constexpr XMLCh _UTF_alignCellHorizontallyWith[] = u"alignCellHorizontallyWith";
+  static constexpr XMLCh _UTF_alignCellVerticallyWith[] = u"alignCellVerticallyWith";
   static constexpr XMLCh _UTF_axesOutside[] = u"axesOutside";
 
   explicit OrbGraph(xercesc::DOMElement* element);
@@ -21,15 +41,86 @@ public:
   void setId(const XMLCh* id);
   void removeId();
 
+  /// The style of the single facets.
+  OrbStyle* getCellStyle() const;
+  void setCellStyle(const OrbStyle& style);
+  void removeCellStyle();
+
+  OrbStyle* getStyle() const;
+  void setStyle(const OrbStyle& style);
+  void removeStyle();
+
   /// Whether the drawing is cut at the edge; false when absent.
   bool getClip() const;
   void setClip(bool clip);
   void removeClip();
 
+  /// The dimension, of this graph or another, with which the facets are aligned from left to right.
+  OrbDimension* getAlignCellHorizontallyWith() const;
+  void setAlignCellHorizontallyWith(const OrbDimension& dimension);
+  void removeAlignCellHorizontallyWith();
+
+  /// The dimension, of this graph or another, with which the facets are aligned from top to bottom.
+  OrbDimension* getAlignCellVerticallyWith() const;
+  void setAlignCellVerticallyWith(const OrbDimension& dimension);
+  void removeAlignCellVerticallyWith();
+
   /// Whether the axes stand outside; false when absent.
   bool getAxesOutside() const;
   void setAxesOutside(bool axesOutside);
   void removeAxesOutside();
+
+  /// The coordinate systems, of which a graphic element chooses one. The one at a position, counted from 0, is null
+  /// past the end.
+  OrbCoordinates* addCoordinates(const XMLCh* id);
+  OrbCoordinates* getCoordinates(unsigned int index) const;
+  std::vector<OrbCoordinates*> getCoordinatess() const;
+  unsigned int removeCoordinatess();
+
+  /// How the data is cut into panels, at most one. A second add raises "Can not add a Faceting to a Graph because 1
+  /// Faceting(s) already exist(s)." with the number that there is.
+  OrbFaceting* addFaceting();
+  OrbFaceting* getFaceting() const;
+  unsigned int removeFacetings();
+
+  OrbArea* addArea(const XMLCh* id);
+  std::vector<OrbArea*> getAreas() const;
+  unsigned int removeAreas();
+
+  OrbInterval* addInterval(const XMLCh* id);
+  std::vector<OrbInterval*> getIntervals() const;
+  unsigned int removeIntervals();
+
+  OrbLine* addLine(const XMLCh* id);
+  std::vector<OrbLine*> getLines() const;
+  unsigned int removeLines();
+
+  /// The edges. Alone among the graphic elements an edge is added without an id. Removing a single one takes its id off
+  /// it, and answers false past the end.
+  OrbEdge* addEdge();
+  std::vector<OrbEdge*> getEdges() const;
+  bool removeEdge(unsigned int index);
+  unsigned int removeEdges();
+
+  OrbPath* addPath(const XMLCh* id);
+  std::vector<OrbPath*> getPaths() const;
+  unsigned int removePaths();
+
+  OrbPoint* addPoint(const XMLCh* id);
+  std::vector<OrbPoint*> getPoints() const;
+  unsigned int removePoints();
+
+  OrbPolygon* addPolygon(const XMLCh* id);
+  std::vector<OrbPolygon*> getPolygons() const;
+  unsigned int removePolygons();
+
+  OrbSchema* addSchema(const XMLCh* id);
+  std::vector<OrbSchema*> getSchemas() const;
+  unsigned int removeSchemas();
+
+  /// Removes one graphic element of this graph and ends its wrapper; its id stays registered. False, and then nothing
+  /// changes, for an element of another graph and for every edge: removeEdge alone removes those.
+  bool removeElement(CTElementType& element);
 
 private:
   struct Children;

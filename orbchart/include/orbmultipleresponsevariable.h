@@ -3,6 +3,8 @@
 
 #include "ctvariabletype.h"
 
+class OrbVariableReference;
+
 /// A set of variables that together hold the answers to one question. No reference finds it.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
@@ -21,6 +23,11 @@ public:
   void setCategoryComponents(bool categoryComponents);
   bool isCategoryComponentsPresent() const;
   void removeCategoryComponents();
+
+  /// The variables that belong to the set.
+  OrbVariableReference* addVariableReference();
+  std::vector<OrbVariableReference*> getVariableReferences() const;
+  unsigned int removeVariableReferences();
 
 private:
   struct Children;

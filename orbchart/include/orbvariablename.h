@@ -6,6 +6,7 @@
 #include <memory>
 
 class OrbName;
+class OrbScope;
 
 /// Names of a variable with the scopes in which they hold. No class of the library makes it or takes it as a child: a
 /// host sets it over an element of its own.
@@ -20,6 +21,10 @@ public:
   OrbName* addName();
   std::vector<OrbName*> getNames() const;
   unsigned int removeNames();
+
+  OrbScope* addScope();
+  std::vector<OrbScope*> getScopes() const;
+  unsigned int removeScopes();
 
 private:
   struct Children;

@@ -5,17 +5,27 @@
 
 #include <memory>
 
+class OrbCategoricalDomain;
+class OrbCategoricalDomainModifier;
+class OrbDatabaseSource;
+class OrbDelimitedFileSource;
 class OrbDerivedVariable;
 class OrbEmbeddedSource;
 class OrbExpressionVariable;
 class OrbGraph;
+class OrbIntervalDomain;
+class OrbIntervalDomainModifier;
 class OrbMultipleResponseVariable;
+class OrbSavFileSource;
 class OrbSourceVariable;
+class OrbStreamingSource;
+class OrbUserSource;
 
-/// The root element: everything that other elements refer to by id (sources, variables) hangs from it.
+/// The root element: everything that other elements refer to by id (sources, variables, domains, styles) hangs from it.
 ///
-/// The add operations keep the children in bands: sources, then variables, then graphs. Within a band a new element
-/// goes last, whatever its kind. Nothing is counted, and a load takes any order.
+/// The add operations keep the children in bands: sources, then variables, domains and domain modifiers, then graphs,
+/// then styles. Within a band a new element goes last, whatever its kind. A savFileSource keeps no band: it goes to the
+/// very end, whatever stands there. Nothing is counted, and a load takes any order.
 class ORBCHART_EXPORT OrbVisualization : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_visualization[] = u"visualization";
@@ -80,10 +90,40 @@ public:
   void setClip(bool clip);
   void removeClip();
 
+  /// The style of the whole drawing.
+  OrbStyle* getStyle() const;
+  void setStyle(const OrbStyle& style);
+  void removeStyle();
+
+  /// Sources whose rows stand in a database.
+  OrbDatabaseSource* addDatabaseSource(const XMLCh* id);
+  std::vector<OrbDatabaseSource*> getDatabaseSources() const;
+  unsigned int removeDatabaseSources();
+
+  /// Sources whose rows stand in a delimited text file.
+  OrbDelimitedFileSource* addDelimitedFileSource(const XMLCh* id);
+  std::vector<OrbDelimitedFileSource*> getDelimitedFileSources() const;
+  unsigned int removeDelimitedFileSources();
+
   /// Sources whose rows stand in the document.
   OrbEmbeddedSource* addEmbeddedSource(const XMLCh* id);
   std::vector<OrbEmbeddedSource*> getEmbeddedSources() const;
   unsigned int removeEmbeddedSources();
+
+  /// Sources whose rows come as a stream.
+  OrbStreamingSource* addStreamingSource(const XMLCh* id, const XMLCh* url);
+  std::vector<OrbStreamingSource*> getStreamingSources() const;
+  unsigned int removeStreamingSources();
+
+  /// Sources that the host fills at run time.
+  OrbUserSource* addUserSource(const XMLCh* id);
+  std::vector<OrbUserSource*> getUserSources() const;
+  unsigned int removeUserSources();
+
+  /// Sources whose rows stand in a statistics data file. A new one goes to the very end, whatever stands there.
+  OrbSavFileSource* addSavFileSource();
+  std::vector<OrbSavFileSource*> getSavFileSources() const;
+  unsigned int removeSavFileSources();
 
   /// Variables read from a source. Removing a single one leaves its id registered, and answers false for a variable
   /// that is not a child here.
@@ -108,9 +148,33 @@ public:
   std::vector<OrbMultipleResponseVariable*> getMultipleResponseVariables() const;
   unsigned int removeMultipleResponseVariables();
 
+  /// Domains of categories.
+  OrbCategoricalDomain* addCategoricalDomain(const XMLCh* id);
+  std::vector<OrbCategoricalDomain*> getCategoricalDomains() const;
+  unsigned int removeCategoricalDomains();
+
+  /// Changes of domains of categories.
+  OrbCategoricalDomainModifier* addCategoricalDomainModifier();
+  std::vector<OrbCategoricalDomainModifier*> getCategoricalDomainModifiers() const;
+  unsigned int removeCategoricalDomainModifiers();
+
+  /// Changes of domains of ranges.
+  OrbIntervalDomainModifier* addIntervalDomainModifier();
+  std::vector<OrbIntervalDomainModifier*> getIntervalDomainModifiers() const;
+  unsigned int removeIntervalDomainModifiers();
+
+  /// Domains of ranges.
+  OrbIntervalDomain* addIntervalDomain(const XMLCh* id);
+  std::vector<OrbIntervalDomain*> getIntervalDomains() const;
+  unsigned int removeIntervalDomains();
+
   OrbGraph* addGraph(const XMLCh* id);
   std::vector<OrbGraph*> getGraphs() const;
   unsigned int removeGraphs();
+
+  OrbStyle* addStyle();
+  std::vector<OrbStyle*> getStyles() const;
+  unsigned int removeStyles();
 
 private:
   struct Children;

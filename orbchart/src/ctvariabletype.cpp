@@ -4,6 +4,13 @@
 #include "attribute.h"
 #include "family.h"
 #include "keyword.h"
+#include "orbaggregation.h"
+#include "orbcategoricaldomain.h"
+#include "orbdomainexclude.h"
+#include "orbdomainintersect.h"
+#include "orbdomainreplace.h"
+#include "orbdomainunion.h"
+#include "orbintervaldomain.h"
 #include "orbuni.h"
 #include "reference.h"
 #include "variablereference.h"
@@ -20,9 +27,11 @@ constexpr Keyword<CTVariableType::ENUM_measurementLevel> measurementLevels[] = {
     {CTVariableType::measurementLevel_ratio, CTVariableType::_UTF_measurementLevel_ratio},
 };
 
+using AfterAggregations = FamilyList<>;
+
 } // namespace
 
-struct CTVariableType::Children : ChildFamilies<FamilyList<>> {};
+struct CTVariableType::Children : ChildFamilies<FamilyList<OrbAggregation>> {};
 
 CTVariableType::CTVariableType(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   // A concrete variable may have children of its own beside the base's.
@@ -57,6 +66,27 @@ void CTVariableType::setSource(const OrbBaseElement& source) {
 }
 void CTVariableType::removeSource() { removeAttribute(*this, OrbUni::_source); }
 
+OrbIntervalDomain* CTVariableType::getIntervalDomain() const {
+  return readReference<OrbIntervalDomain>(*this, OrbUni::_domain);
+}
+OrbCategoricalDomain* CTVariableType::getCategoricalDomain() const {
+  return readReference<OrbCategoricalDomain>(*this, OrbUni::_domain);
+}
+void CTVariableType::setDomain(const OrbIntervalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
+void CTVariableType::setDomain(const OrbCategoricalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
+void CTVariableType::removeDomain() { removeAttribute(*this, OrbUni::_domain); }
+
+CTModifier* CTVariableType::getDomainModifier() const {
+  return readReferenceTo<CTModifier, OrbDomainExclude, OrbDomainIntersect, OrbDomainReplace, OrbDomainUnion>(
+      *this, _UTF_domainModifier);
+}
+void CTVariableType::setDomainModifier(const CTModifier& modifier) {
+  writeReferenceAmong<OrbDomainExclude, OrbDomainIntersect, OrbDomainReplace, OrbDomainUnion>(
+      *this, _UTF_domainModifier, modifier);
+}
+bool CTVariableType::isDomainModifierPresent() const { return isPresent(*this, _UTF_domainModifier); }
+void CTVariableType::removeDomainModifier() { removeAttribute(*this, _UTF_domainModifier); }
+
 CTVariableType* CTVariableType::getDependsOn() const { return readVariable(*this, _UTF_dependsOn); }
 void CTVariableType::setDependsOn(const CTVariableType& variable) { writeReference(*this, _UTF_dependsOn, variable); }
 bool CTVariableType::isDependsOnPresent() const { return isPresent(*this, _UTF_dependsOn); }
@@ -88,3 +118,11 @@ void CTVariableType::removeKey() { removeAttribute(*this, OrbUni::_key); }
 bool CTVariableType::getWeight() const { return readBoolean(*this, OrbUni::_weight); }
 void CTVariableType::setWeight(bool weight) { writeBoolean(*this, OrbUni::_weight, weight); }
 void CTVariableType::removeWeight() { removeAttribute(*this, OrbUni::_weight); }
+
+OrbAggregation* CTVariableType::addAggregation(const XMLCh* newCategory, const CTVariableType& sumVariable,
+                                               double minFraction) {
+  return children_->add<OrbAggregation>(*this, OnlyOne("Aggregation", "VariableType"), AfterAggregations{}, newCategory,
+                                        sumVariable, minFraction);
+}
+std::vector<OrbAggregation*> CTVariableType::getAggregations() const { return children_->all<OrbAggregation>(); }
+unsigned int CTVariableType::removeAggregations() { return children_->removeAll<OrbAggregation>(*this); }

@@ -2,31 +2,28 @@
 #include "orbembeddedsource.h"
 
 #include "attribute.h"
-#include "family.h"
-#include "keyword.h"
 #include "orbnames.h"
 #include "orbrow.h"
 #include "orbtypes.h"
 #include "orbuni.h"
+#include "sourceshape.h"
 
 using namespace orbchart;
 using xercesc::DOMElement;
 
 namespace {
 
-constexpr Keyword<OrbEmbeddedSource::ENUM_missing> missings[] = {
-    {OrbEmbeddedSource::missing_pairwise, OrbEmbeddedSource::_UTF_missing_pairwise},
-    {OrbEmbeddedSource::missing_listwise, OrbEmbeddedSource::_UTF_missing_listwise},
-};
-
-// A row is a follower of rows: it goes before the one whose wrapper is first.
-using AfterRows = FamilyList<OrbRow>;
 using AfterTypes = FamilyList<OrbRow>;
+// A row is a follower of rows: it goes before the one whose wrapper is first.
+using AfterRows = AfterTypes;
 using AfterNames = Joined<FamilyList<OrbTypes>, AfterTypes>;
+using AfterFilters = FamilyList<OrbNames, OrbTypes, OrbRow>;
+using AfterAggregates = Joined<FamilyList<OrbFilter>, AfterFilters>;
 
 } // namespace
 
-struct OrbEmbeddedSource::Children : ChildFamilies<FamilyList<OrbNames, OrbTypes, OrbRow>> {};
+struct OrbEmbeddedSource::Children
+    : ChildFamilies<FamilyList<OrbAggregate, OrbFilter, OrbNames, OrbTypes, OrbRow, OrbDataReduction>> {};
 
 OrbEmbeddedSource::OrbEmbeddedSource(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -40,9 +37,11 @@ void OrbEmbeddedSource::setId(const XMLCh* id) { writeId(*this, id); }
 void OrbEmbeddedSource::removeId() { removeAttribute(*this, OrbUni::_id); }
 
 OrbEmbeddedSource::ENUM_missing OrbEmbeddedSource::getMissing() const {
-  return readKeyword(*this, _UTF_missing, missings, missing_unset);
+  return readKeyword(*this, _UTF_missing, missingKeywords<OrbEmbeddedSource>, missing_unset);
 }
-void OrbEmbeddedSource::setMissing(ENUM_missing missing) { writeKeyword(*this, _UTF_missing, missings, missing); }
+void OrbEmbeddedSource::setMissing(ENUM_missing missing) {
+  writeKeyword(*this, _UTF_missing, missingKeywords<OrbEmbeddedSource>, missing);
+}
 bool OrbEmbeddedSource::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
 void OrbEmbeddedSource::removeMissing() { removeAttribute(*this, _UTF_missing); }
 
@@ -52,6 +51,14 @@ void OrbEmbeddedSource::setFilterToMissing(bool filterToMissing) {
 }
 bool OrbEmbeddedSource::isFilterToMissingPresent() const { return isPresent(*this, _UTF_filterToMissing); }
 void OrbEmbeddedSource::removeFilterToMissing() { removeAttribute(*this, _UTF_filterToMissing); }
+
+OrbAggregate* OrbEmbeddedSource::addAggregate() { return children_->add<OrbAggregate>(*this, AfterAggregates{}); }
+OrbAggregate* OrbEmbeddedSource::getAggregate() const { return children_->first<OrbAggregate>(); }
+unsigned int OrbEmbeddedSource::removeAggregate() { return children_->removeAll<OrbAggregate>(*this); }
+
+OrbFilter* OrbEmbeddedSource::addFilter() { return children_->add<OrbFilter>(*this, AfterFilters{}); }
+std::vector<OrbFilter*> OrbEmbeddedSource::getFilters() const { return children_->all<OrbFilter>(); }
+unsigned int OrbEmbeddedSource::removeFilters() { return children_->removeAll<OrbFilter>(*this); }
 
 OrbNames* OrbEmbeddedSource::addNames() {
   return children_->add<OrbNames>(*this, OnlyOne("Names", "EmbeddedSource"), AfterNames{});
@@ -68,3 +75,9 @@ unsigned int OrbEmbeddedSource::removeTypess() { return children_->removeAll<Orb
 OrbRow* OrbEmbeddedSource::addRow() { return children_->add<OrbRow>(*this, AfterRows{}); }
 std::vector<OrbRow*> OrbEmbeddedSource::getRows() const { return children_->all<OrbRow>(); }
 unsigned int OrbEmbeddedSource::removeRows() { return children_->removeAll<OrbRow>(*this); }
+
+OrbDataReduction* OrbEmbeddedSource::addDataReduction() { return children_->add<OrbDataReduction>(*this, atEnd); }
+std::vector<OrbDataReduction*> OrbEmbeddedSource::getDataReductions() const {
+  return children_->all<OrbDataReduction>();
+}
+unsigned int OrbEmbeddedSource::removeDataReductions() { return children_->removeAll<OrbDataReduction>(*this); }

@@ -3,11 +3,12 @@
 
 #include "attribute.h"
 #include "family.h"
+#include "orbvariablereference.h"
 
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbMultipleResponseVariable::Children : ChildFamilies<FamilyList<>> {};
+struct OrbMultipleResponseVariable::Children : ChildFamilies<FamilyList<OrbVariableReference>> {};
 
 OrbMultipleResponseVariable::OrbMultipleResponseVariable(DOMElement* element) :
     CTVariableType(element), children_(new Children) {
@@ -24,3 +25,13 @@ bool OrbMultipleResponseVariable::isCategoryComponentsPresent() const {
   return isPresent(*this, _UTF_categoryComponents);
 }
 void OrbMultipleResponseVariable::removeCategoryComponents() { removeAttribute(*this, _UTF_categoryComponents); }
+
+OrbVariableReference* OrbMultipleResponseVariable::addVariableReference() {
+  return children_->add<OrbVariableReference>(*this, atEnd);
+}
+std::vector<OrbVariableReference*> OrbMultipleResponseVariable::getVariableReferences() const {
+  return children_->all<OrbVariableReference>();
+}
+unsigned int OrbMultipleResponseVariable::removeVariableReferences() {
+  return children_->removeAll<OrbVariableReference>(*this);
+}

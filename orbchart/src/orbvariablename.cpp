@@ -3,10 +3,11 @@
 
 #include "family.h"
 #include "orbname.h"
+#include "orbscope.h"
 
 using namespace orbchart;
 
-struct OrbVariableName::Children : ChildFamilies<FamilyList<OrbName>> {};
+struct OrbVariableName::Children : ChildFamilies<FamilyList<OrbName, OrbScope>> {};
 
 OrbVariableName::OrbVariableName(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -17,3 +18,7 @@ OrbVariableName::~OrbVariableName() = default;
 OrbName* OrbVariableName::addName() { return children_->add<OrbName>(*this, atEnd); }
 std::vector<OrbName*> OrbVariableName::getNames() const { return children_->all<OrbName>(); }
 unsigned int OrbVariableName::removeNames() { return children_->removeAll<OrbName>(*this); }
+
+OrbScope* OrbVariableName::addScope() { return children_->add<OrbScope>(*this, atEnd); }
+std::vector<OrbScope*> OrbVariableName::getScopes() const { return children_->all<OrbScope>(); }
+unsigned int OrbVariableName::removeScopes() { return children_->removeAll<OrbScope>(*this); }

@@ -4,13 +4,24 @@
 #include "attribute.h"
 #include "chartprinter.h"
 #include "family.h"
+#include "orbcategoricaldomain.h"
+#include "orbcategoricaldomainmodifier.h"
+#include "orbdatabasesource.h"
+#include "orbdelimitedfilesource.h"
 #include "orbderivedvariable.h"
 #include "orbembeddedsource.h"
 #include "orbexpressionvariable.h"
 #include "orbgraph.h"
+#include "orbintervaldomain.h"
+#include "orbintervaldomainmodifier.h"
 #include "orbmultipleresponsevariable.h"
+#include "orbsavfilesource.h"
 #include "orbsourcevariable.h"
+#include "orbstreamingsource.h"
+#include "orbstyle.h"
 #include "orbuni.h"
+#include "orbusersource.h"
+#include "reference.h"
 
 #include <sstream>
 
@@ -21,17 +32,33 @@ namespace {
 
 // The families by band, in document order. A new family takes its place in its band, and with it in the record, in
 // the loader and among the followers of the bands before it.
-using Sources = FamilyList<OrbEmbeddedSource>;
-using Variables = FamilyList<OrbSourceVariable, OrbDerivedVariable, OrbExpressionVariable, OrbMultipleResponseVariable>;
-using Graphs = FamilyList<OrbGraph>;
+using Locations = FamilyList<>;
+using Extensions = FamilyList<>;
+using Sources =
+    FamilyList<OrbDatabaseSource, OrbDelimitedFileSource, OrbEmbeddedSource, OrbStreamingSource, OrbUserSource>;
+using Variables =
+    FamilyList<OrbSourceVariable, OrbDerivedVariable, OrbExpressionVariable, OrbMultipleResponseVariable,
+               OrbCategoricalDomain, OrbCategoricalDomainModifier, OrbIntervalDomainModifier, OrbIntervalDomain>;
+using Frames = FamilyList<OrbGraph>;
+using Styles = FamilyList<OrbStyle>;
+using Popups = FamilyList<>;
+using DrillDowns = FamilyList<>;
+using Controllers = FamilyList<>;
+// What goes to the very end, and no add looks at.
+using Unplaced = FamilyList<OrbSavFileSource>;
 
-using AfterGraphs = FamilyList<>;
-using AfterVariables = Joined<Graphs, AfterGraphs>;
+using AfterStyles = Joined<Popups, DrillDowns, Controllers>;
+// Frames do not look at controllers, and what stands before the sources does not look at drill-downs.
+using AfterFrames = Joined<Styles, Popups, DrillDowns>;
+using AfterVariables = Joined<Frames, AfterFrames>;
 using AfterSources = Joined<Variables, AfterVariables>;
+using AfterExtensions = Joined<Sources, Variables, Frames, Styles, Popups>;
+using AfterLocations = Joined<Extensions, AfterExtensions>;
 
 } // namespace
 
-struct OrbVisualization::Children : ChildFamilies<Joined<Sources, Variables, Graphs>> {};
+struct OrbVisualization::Children : ChildFamilies<Joined<Locations, Extensions, Sources, Variables, Frames, Styles,
+                                                         Popups, DrillDowns, Controllers, Unplaced>> {};
 
 OrbVisualization::OrbVisualization(DOMElement* element) : OrbBaseElement(element), children_(new Children) { init(); }
 OrbVisualization::OrbVisualization(DOMElement* element, double version, const XMLCh* id) : OrbVisualization(element) {
@@ -93,6 +120,30 @@ bool OrbVisualization::getClip() const { return readBoolean(*this, OrbUni::_clip
 void OrbVisualization::setClip(bool clip) { writeBoolean(*this, OrbUni::_clip, clip); }
 void OrbVisualization::removeClip() { removeAttribute(*this, OrbUni::_clip); }
 
+OrbStyle* OrbVisualization::getStyle() const { return readReference<OrbStyle>(*this, OrbUni::_style); }
+void OrbVisualization::setStyle(const OrbStyle& style) { writeReference(*this, OrbUni::_style, style); }
+void OrbVisualization::removeStyle() { removeAttribute(*this, OrbUni::_style); }
+
+OrbDatabaseSource* OrbVisualization::addDatabaseSource(const XMLCh* id) {
+  return children_->add<OrbDatabaseSource>(*this, AfterSources{}, id);
+}
+std::vector<OrbDatabaseSource*> OrbVisualization::getDatabaseSources() const {
+  return children_->all<OrbDatabaseSource>();
+}
+unsigned int OrbVisualization::removeDatabaseSources() {
+  return children_->removeAll<OrbDatabaseSource>(*this, Ids::strip);
+}
+
+OrbDelimitedFileSource* OrbVisualization::addDelimitedFileSource(const XMLCh* id) {
+  return children_->add<OrbDelimitedFileSource>(*this, AfterSources{}, id);
+}
+std::vector<OrbDelimitedFileSource*> OrbVisualization::getDelimitedFileSources() const {
+  return children_->all<OrbDelimitedFileSource>();
+}
+unsigned int OrbVisualization::removeDelimitedFileSources() {
+  return children_->removeAll<OrbDelimitedFileSource>(*this, Ids::strip);
+}
+
 OrbEmbeddedSource* OrbVisualization::addEmbeddedSource(const XMLCh* id) {
   return children_->add<OrbEmbeddedSource>(*this, AfterSources{}, id);
 }
@@ -102,6 +153,28 @@ std::vector<OrbEmbeddedSource*> OrbVisualization::getEmbeddedSources() const {
 unsigned int OrbVisualization::removeEmbeddedSources() {
   return children_->removeAll<OrbEmbeddedSource>(*this, Ids::strip);
 }
+
+OrbStreamingSource* OrbVisualization::addStreamingSource(const XMLCh* id, const XMLCh* url) {
+  return children_->add<OrbStreamingSource>(*this, AfterSources{}, id, url);
+}
+std::vector<OrbStreamingSource*> OrbVisualization::getStreamingSources() const {
+  return children_->all<OrbStreamingSource>();
+}
+unsigned int OrbVisualization::removeStreamingSources() {
+  return children_->removeAll<OrbStreamingSource>(*this, Ids::strip);
+}
+
+OrbUserSource* OrbVisualization::addUserSource(const XMLCh* id) {
+  return children_->add<OrbUserSource>(*this, AfterSources{}, id);
+}
+std::vector<OrbUserSource*> OrbVisualization::getUserSources() const { return children_->all<OrbUserSource>(); }
+unsigned int OrbVisualization::removeUserSources() { return children_->removeAll<OrbUserSource>(*this, Ids::strip); }
+
+OrbSavFileSource* OrbVisualization::addSavFileSource() { return children_->add<OrbSavFileSource>(*this, atEnd); }
+std::vector<OrbSavFileSource*> OrbVisualization::getSavFileSources() const {
+  return children_->all<OrbSavFileSource>();
+}
+unsigned int OrbVisualization::removeSavFileSources() { return children_->removeAll<OrbSavFileSource>(*this); }
 
 OrbSourceVariable* OrbVisualization::addSourceVariable(const XMLCh* id) {
   return children_->add<OrbSourceVariable>(*this, AfterVariables{}, id);
@@ -149,6 +222,50 @@ unsigned int OrbVisualization::removeMultipleResponseVariables() {
   return children_->removeAll<OrbMultipleResponseVariable>(*this);
 }
 
-OrbGraph* OrbVisualization::addGraph(const XMLCh* id) { return children_->add<OrbGraph>(*this, AfterGraphs{}, id); }
+OrbCategoricalDomain* OrbVisualization::addCategoricalDomain(const XMLCh* id) {
+  return children_->add<OrbCategoricalDomain>(*this, AfterVariables{}, id);
+}
+std::vector<OrbCategoricalDomain*> OrbVisualization::getCategoricalDomains() const {
+  return children_->all<OrbCategoricalDomain>();
+}
+unsigned int OrbVisualization::removeCategoricalDomains() {
+  return children_->removeAll<OrbCategoricalDomain>(*this, Ids::strip);
+}
+
+OrbCategoricalDomainModifier* OrbVisualization::addCategoricalDomainModifier() {
+  return children_->add<OrbCategoricalDomainModifier>(*this, AfterVariables{});
+}
+std::vector<OrbCategoricalDomainModifier*> OrbVisualization::getCategoricalDomainModifiers() const {
+  return children_->all<OrbCategoricalDomainModifier>();
+}
+unsigned int OrbVisualization::removeCategoricalDomainModifiers() {
+  return children_->removeAll<OrbCategoricalDomainModifier>(*this);
+}
+
+OrbIntervalDomainModifier* OrbVisualization::addIntervalDomainModifier() {
+  return children_->add<OrbIntervalDomainModifier>(*this, AfterVariables{});
+}
+std::vector<OrbIntervalDomainModifier*> OrbVisualization::getIntervalDomainModifiers() const {
+  return children_->all<OrbIntervalDomainModifier>();
+}
+unsigned int OrbVisualization::removeIntervalDomainModifiers() {
+  return children_->removeAll<OrbIntervalDomainModifier>(*this);
+}
+
+OrbIntervalDomain* OrbVisualization::addIntervalDomain(const XMLCh* id) {
+  return children_->add<OrbIntervalDomain>(*this, AfterVariables{}, id);
+}
+std::vector<OrbIntervalDomain*> OrbVisualization::getIntervalDomains() const {
+  return children_->all<OrbIntervalDomain>();
+}
+unsigned int OrbVisualization::removeIntervalDomains() {
+  return children_->removeAll<OrbIntervalDomain>(*this, Ids::strip);
+}
+
+OrbGraph* OrbVisualization::addGraph(const XMLCh* id) { return children_->add<OrbGraph>(*this, AfterFrames{}, id); }
 std::vector<OrbGraph*> OrbVisualization::getGraphs() const { return children_->all<OrbGraph>(); }
 unsigned int OrbVisualization::removeGraphs() { return children_->removeAll<OrbGraph>(*this, Ids::strip); }
+
+OrbStyle* OrbVisualization::addStyle() { return children_->add<OrbStyle>(*this, AfterStyles{}); }
+std::vector<OrbStyle*> OrbVisualization::getStyles() const { return children_->all<OrbStyle>(); }
+unsigned int OrbVisualization::removeStyles() { return children_->removeAll<OrbStyle>(*this, Ids::strip); }

@@ -22,6 +22,7 @@ struct Platform {
 };
 
 inline std::string utf8(const XMLCh* text) {
+  const Platform platform;
   const xercesc::TranscodeToStr bytes(text, "UTF-8");
   return reinterpret_cast<const char*>(bytes.str());
 }

@@ -1,0 +1,34 @@
+// The footnotes of labels, element `footnotes`.
+#pragma once
+
+#include "ctaesthetic.h"
+
+/// The footnotes of labels.
+///
+/// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
+class ORBCHART_EXPORT OrbFootnotes : public CTAesthetic {
+public:
+  static constexpr XMLCh _UTF_footnotes[] = u"footnotes";
+  static constexpr const XMLCh* elementName = _UTF_footnotes;
+
+  static constexpr XMLCh _UTF_index[] = u"index";
+  static constexpr XMLCh _UTF_superscript[] = u"superscript";
+
+  explicit OrbFootnotes(xercesc::DOMElement* element);
+  ~OrbFootnotes() override;
+
+  unsigned int getIndex() const;
+  void setIndex(unsigned int index);
+  bool isIndexPresent() const;
+  void removeIndex();
+
+  /// Whether the marks are raised; false when absent.
+  bool getSuperscript() const;
+  void setSuperscript(bool superscript);
+  bool isSuperscriptPresent() const;
+  void removeSuperscript();
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
+};

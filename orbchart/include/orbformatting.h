@@ -1,0 +1,20 @@
+// The formats of labels by their values, element `formatting`.
+#pragma once
+
+#include "ctaesthetic.h"
+
+/// The formats of labels by their values.
+///
+/// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
+class ORBCHART_EXPORT OrbFormatting : public CTAesthetic {
+public:
+  static constexpr XMLCh _UTF_formatting[] = u"formatting";
+  static constexpr const XMLCh* elementName = _UTF_formatting;
+
+  explicit OrbFormatting(xercesc::DOMElement* element);
+  ~OrbFormatting() override;
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
+};

@@ -1,0 +1,27 @@
+// The style of a graphic element, element `styleBy`.
+#pragma once
+
+#include "ctaesthetic.h"
+
+/// The style of a graphic element.
+class ORBCHART_EXPORT OrbStyleBy : public CTAesthetic {
+public:
+  static constexpr XMLCh _UTF_styleBy[] = u"styleBy";
+  static constexpr const XMLCh* elementName = _UTF_styleBy;
+
+  static constexpr XMLCh _UTF_missing[] = u"missing";
+
+  explicit OrbStyleBy(xercesc::DOMElement* element);
+  ~OrbStyleBy() override;
+
+  /// The style cycle that the values run through.
+  void removeStyleCycle();
+
+  const XMLCh* getAffects() const;
+  void setAffects(const XMLCh* affects);
+  void removeAffects();
+
+  /// The style cycle of missing values: a reference in this class alone.
+  bool isMissingPresent() const;
+  void removeMissing();
+};

@@ -1,0 +1,14 @@
+// The y coordinate of a graphic element, element `y`.
+#pragma once
+
+#include "ctcoordinate.h"
+
+/// The y coordinate of a graphic element.
+class ORBCHART_EXPORT OrbY : public CTCoordinate {
+public:
+  static constexpr XMLCh _UTF_y[] = u"y";
+  static constexpr const XMLCh* elementName = _UTF_y;
+
+  explicit OrbY(xercesc::DOMElement* element);
+  ~OrbY() override;
+};

@@ -1,0 +1,80 @@
+// A change of the values of a domain of intervals.
+#include "orbintervaldomainmodifier.h"
+
+#include "attribute.h"
+#include "family.h"
+#include "keyword.h"
+#include "orbdomainexclude.h"
+#include "orbdomainintersect.h"
+#include "orbdomainreplace.h"
+#include "orbdomainunion.h"
+#include "orbuni.h"
+
+using namespace orbchart;
+using xercesc::DOMElement;
+
+namespace {
+
+constexpr Keyword<OrbIntervalDomainModifier::ENUM_dateType> dateTypes[] = {
+    {OrbIntervalDomainModifier::dateType_date, OrbUni::_date},
+    {OrbIntervalDomainModifier::dateType_dateTime, OrbUni::_dateTime},
+    {OrbIntervalDomainModifier::dateType_time, OrbUni::_time},
+};
+
+} // namespace
+
+struct OrbIntervalDomainModifier::Children
+    : ChildFamilies<FamilyList<OrbDomainReplace, OrbDomainUnion, OrbDomainIntersect, OrbDomainExclude>> {};
+
+OrbIntervalDomainModifier::OrbIntervalDomainModifier(DOMElement* element) :
+    OrbBaseElement(element), children_(new Children) {
+  children_->load(*this);
+  bind(*this);
+}
+OrbIntervalDomainModifier::~OrbIntervalDomainModifier() = default;
+
+const XMLCh* OrbIntervalDomainModifier::getId() const { return GetAttribute(OrbUni::_id); }
+void OrbIntervalDomainModifier::setId(const XMLCh* id) { writeId(*this, id); }
+bool OrbIntervalDomainModifier::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
+void OrbIntervalDomainModifier::removeId() { removeAttribute(*this, OrbUni::_id); }
+
+OrbIntervalDomainModifier::ENUM_dateType OrbIntervalDomainModifier::getDateType() const {
+  return readKeyword(*this, _UTF_dateType, dateTypes, dateType_unset);
+}
+void OrbIntervalDomainModifier::setDateType(ENUM_dateType dateType) {
+  writeKeyword(*this, _UTF_dateType, dateTypes, dateType);
+}
+bool OrbIntervalDomainModifier::isDateTypePresent() const { return isPresent(*this, _UTF_dateType); }
+void OrbIntervalDomainModifier::removeDateType() { removeAttribute(*this, _UTF_dateType); }
+
+OrbDomainReplace* OrbIntervalDomainModifier::addDomainReplace() {
+  return children_->add<OrbDomainReplace>(*this, atEnd);
+}
+std::vector<OrbDomainReplace*> OrbIntervalDomainModifier::getDomainReplaces() const {
+  return children_->all<OrbDomainReplace>();
+}
+unsigned int OrbIntervalDomainModifier::removeDomainReplaces() { return children_->removeAll<OrbDomainReplace>(*this); }
+
+OrbDomainUnion* OrbIntervalDomainModifier::addDomainUnion() { return children_->add<OrbDomainUnion>(*this, atEnd); }
+std::vector<OrbDomainUnion*> OrbIntervalDomainModifier::getDomainUnions() const {
+  return children_->all<OrbDomainUnion>();
+}
+unsigned int OrbIntervalDomainModifier::removeDomainUnions() { return children_->removeAll<OrbDomainUnion>(*this); }
+
+OrbDomainIntersect* OrbIntervalDomainModifier::addDomainIntersect() {
+  return children_->add<OrbDomainIntersect>(*this, atEnd);
+}
+std::vector<OrbDomainIntersect*> OrbIntervalDomainModifier::getDomainIntersects() const {
+  return children_->all<OrbDomainIntersect>();
+}
+unsigned int OrbIntervalDomainModifier::removeDomainIntersects() {
+  return children_->removeAll<OrbDomainIntersect>(*this);
+}
+
+OrbDomainExclude* OrbIntervalDomainModifier::addDomainExclude() {
+  return children_->add<OrbDomainExclude>(*this, atEnd);
+}
+std::vector<OrbDomainExclude*> OrbIntervalDomainModifier::getDomainExcludes() const {
+  return children_->all<OrbDomainExclude>();
+}
+unsigned int OrbIntervalDomainModifier::removeDomainExcludes() { return children_->removeAll<OrbDomainExclude>(*this); }

@@ -1,0 +1,14 @@
+// The scope of a variable name.
+#include "orbscope.h"
+
+#include "elementtext.h"
+#include "loading.h"
+
+using namespace orbchart;
+
+OrbScope::OrbScope(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
+OrbScope::~OrbScope() = default;
+
+ChartString OrbScope::getText() const { return readText(*this); }
+void OrbScope::setText(const XMLCh* text) { writeText(*this, text); }
+void OrbScope::removeText() { clearText(*this); }

@@ -1,0 +1,23 @@
+// What the classes of sources share without a common base.
+#pragma once
+
+#include "family.h"
+#include "keyword.h"
+#include "orbaggregate.h"
+#include "orbdatareduction.h"
+#include "orbfilter.h"
+
+namespace orbchart {
+
+/// The keywords of `missing`, for the enumeration of each source.
+template <class Source>
+inline constexpr Keyword<typename Source::ENUM_missing> missingKeywords[] = {
+    {Source::missing_pairwise, Source::_UTF_missing_pairwise},
+    {Source::missing_listwise, Source::_UTF_missing_listwise},
+};
+
+/// The families of a source that has no others.
+using SourceFamilies = FamilyList<OrbAggregate, OrbFilter, OrbDataReduction>;
+using AfterSourceAggregates = FamilyList<OrbFilter>;
+
+} // namespace orbchart
