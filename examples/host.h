@@ -30,6 +30,11 @@ inline Text fromUtf8(const std::string& bytes) {
 
 inline std::string toUtf8(const XMLCh* text) { return ChartString(text).toUTF8(); }
 
+/// What a reader calls a variable; a reference that leads nowhere has no label.
+inline std::string labelOf(const CTVariableType* variable) {
+  return variable == nullptr ? "nothing" : toUtf8(variable->getLabel());
+}
+
 using Table = std::vector<std::vector<std::string>>;
 
 /// The lines of a table of comma-separated values, the one with the names included.
