@@ -69,7 +69,8 @@ public:
   /// lives on and stays where it is held.
   bool removeChildElement(OrbBaseElement* child);
 
-  /// Puts a comment ahead of all children. A null or empty text, and one with "--" in it, does nothing.
+  /// Puts a comment ahead of all children. A null or empty text, and one with "--" in it, does nothing. A text that
+  /// ends in "-" is taken, and what is printed of it is no XML.
   void setComment(const XMLCh* text);
 
   /// Raises "Can not add a <child> to a <parent> because <count> <existing>(s) already exist(s)." when count is above

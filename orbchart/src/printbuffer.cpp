@@ -60,6 +60,12 @@ std::u16string hexadecimal(char32_t character) {
   return digits;
 }
 
+std::unique_ptr<xercesc::XMLTranscoder> transcoderLike(const XMLFormatter& formatter) {
+  xercesc::XMLTransService::Codes result = xercesc::XMLTransService::Ok;
+  return std::unique_ptr<xercesc::XMLTranscoder>(xercesc::XMLPlatformUtils::fgTransService->makeNewTranscoderFor(
+      formatter.getEncodingName(), result, 64, xercesc::XMLPlatformUtils::fgMemoryManager));
+}
+
 void logLost(char32_t character, const XMLFormatter& formatter) {
   OrbErrorHandler().error(xercesc::TranscodingException(__FILE__, __LINE__, xercesc::XMLExcepts::Trans_Unrepresentable,
                                                         hexadecimal(character).c_str(), formatter.getEncodingName(),
@@ -91,9 +97,10 @@ constexpr PrintBuffer::SpecialUnits PrintBuffer::specialUnits[2] = {SpecialUnits
 
 PrintBuffer::PrintBuffer(XMLFormatter& formatter, const XMLCh* version) :
     formatter_(formatter),
+    probe_(transcoderLike(formatter)),
     isVersion11_(XMLString::equals(version, xercesc::XMLUni::fgVersion1_1)),
-    holdsAllUnicode_(formatter.getTranscoder()->canTranscodeTo(0x20000)),
-    isTableDriven_(dynamic_cast<const xercesc::XML256TableTranscoder*>(formatter.getTranscoder()) != nullptr) {}
+    holdsAllUnicode_(probe_->canTranscodeTo(0x20000)),
+    isTableDriven_(dynamic_cast<const xercesc::XML256TableTranscoder*>(probe_.get()) != nullptr) {}
 
 void PrintBuffer::line(unsigned int indent) {
   put(u"\n");
@@ -171,7 +178,7 @@ bool PrintBuffer::canHold(std::u16string_view character) const {
   // The tables have the fullwidth forms as the ASCII characters that they look like, those of the markup among them.
   if (isTableDriven_ && isFullwidth(unit))
     return false;
-  return holdsAllUnicode_ || formatter_.getTranscoder()->canTranscodeTo(unit);
+  return holdsAllUnicode_ || probe_->canTranscodeTo(unit);
 }
 
 void PrintBuffer::put(std::u16string_view units) {

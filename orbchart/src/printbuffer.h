@@ -3,9 +3,11 @@
 #pragma once
 
 #include <xercesc/framework/XMLFormatter.hpp>
+#include <xercesc/util/TransService.hpp>
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -57,6 +59,9 @@ private:
   static const SpecialUnits specialUnits[2];
 
   xercesc::XMLFormatter& formatter_;
+  /// Answers what the encoding can hold. The formatter's own transcoder would keep what it was asked in its state, and
+  /// an encoding with shift states print it.
+  const std::unique_ptr<xercesc::XMLTranscoder> probe_;
   const bool isVersion11_;
   const bool holdsAllUnicode_;
   const bool isTableDriven_;
