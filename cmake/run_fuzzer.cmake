@@ -2,4 +2,5 @@
 file(REMOVE_RECURSE "${DIRECTORY}/corpus")
 file(COPY "${CORPUS}" DESTINATION "${DIRECTORY}")
 execute_process(COMMAND "${FUZZER}" -runs=20000 -max_total_time=20 -timeout=10 "-artifact_prefix=${DIRECTORY}/"
+                        "-dict=${CORPUS}/../orbml.dict"
                         "${DIRECTORY}/corpus" COMMAND_ERROR_IS_FATAL ANY)
