@@ -1,4 +1,5 @@
 // The aesthetics: their numberings, loaders, limits and references, and what attaches an element to a target.
+#include "dom.h"
 #include "orbattach.h"
 #include "orbcategoricaldomain.h"
 #include "orbcategoricaldomainmodifier.h"
@@ -7,7 +8,6 @@
 #include "orbdash.h"
 #include "orbderivedvariable.h"
 #include "orbdomainunion.h"
-#include "orbexception.h"
 #include "orbexpressionvariable.h"
 #include "orbfootnotes.h"
 #include "orbformatting.h"
@@ -26,8 +26,7 @@
 #include "orbsummarystatistic.h"
 #include "orbtransparency.h"
 #include "orbvisibility.h"
-
-#include "support/dom.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
@@ -35,21 +34,13 @@
 #include <vector>
 
 using test::childrenOf;
+using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
 using test::utf8;
 using xercesc::DOMElement;
 
 namespace {
-
-template <class Action> std::string messageOf(Action action) {
-  try {
-    action();
-  } catch (const OrbException& exception) {
-    return exception.what();
-  }
-  return "nothing raised";
-}
 
 DOMElement* addElement(const NewDocument& document, const XMLCh* name, const XMLCh* id) {
   DOMElement* element = document.document()->createElement(name);

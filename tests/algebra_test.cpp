@@ -1,6 +1,7 @@
 // The graph algebra: operators and their operands, the bands of a faceting, variable references and selection terms.
 #include "chartstring.h"
 #include "ctelementtype.h"
+#include "dom.h"
 #include "domprinter.h"
 #include "orbaggregatestatistic.h"
 #include "orbattach.h"
@@ -12,7 +13,6 @@
 #include "orbdot.h"
 #include "orbelementvariablereference.h"
 #include "orbevaluatestatistic.h"
-#include "orbexception.h"
 #include "orbexpressionvariable.h"
 #include "orbfaceting.h"
 #include "orbintersect.h"
@@ -30,7 +30,7 @@
 #include "orbvariablereference.h"
 #include "orbwhen.h"
 #include "orbwhere.h"
-#include "support/dom.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
@@ -40,6 +40,7 @@
 using test::childrenOf;
 using test::NewDocument;
 using test::Parsed;
+using test::refuses;
 using test::utf8;
 using xercesc::DOMElement;
 
@@ -52,18 +53,6 @@ std::string printed(const DOMElement* element) {
   std::string text = stream.str();
   text.erase(std::remove(text.begin(), text.end(), '\n'), text.end());
   return text;
-}
-
-/// Whether a wrapper over an element with some content raises the error of an unknown child.
-template <class Wrapper> bool refuses(const std::string& content) {
-  const std::string name = ChartString(Wrapper::elementName).toUTF8();
-  const Parsed parsed("<" + name + ">" + content + "</" + name + ">");
-  try {
-    const Wrapper wrapper(parsed.root());
-  } catch (const OrbException& exception) {
-    return std::string(exception.what()).find("found unknown child") != std::string::npos;
-  }
-  return false;
 }
 
 /// The operands of a wrapper by family: how many it has, then how many of their ids are known after their removal.

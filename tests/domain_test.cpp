@@ -1,4 +1,5 @@
 // Domains, their references, domain modifiers, and the filters and relabels that stand near them.
+#include "dom.h"
 #include "orbcategoricaldomain.h"
 #include "orbcategoricaldomainmodifier.h"
 #include "orbcategories.h"
@@ -17,8 +18,7 @@
 #include "orbsourcevariable.h"
 #include "orbvariablereference.h"
 #include "orbvisualization.h"
-
-#include "support/dom.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
@@ -26,22 +26,10 @@ using test::childrenOf;
 using test::NewDocument;
 using test::Parsed;
 using test::Platform;
+using test::refuses;
 using test::utf8;
 
 namespace {
-
-/// Whether a wrapper over an element with some content raises the error of an unknown child.
-template <class Wrapper> bool refuses(const std::string& content) {
-  const Platform platform;
-  const std::string name = utf8(Wrapper::elementName);
-  const Parsed parsed("<" + name + ">" + content + "</" + name + ">");
-  try {
-    const Wrapper wrapper(parsed.root());
-  } catch (const OrbException& exception) {
-    return std::string(exception.what()).starts_with("Element " + name + " found unknown child");
-  }
-  return false;
-}
 
 std::string danglingRef(const OrbDomainReference& reference) {
   try {

@@ -1,4 +1,5 @@
 // The graphic elements: where their children go, limits, removal by position, numberings, loading and references.
+#include "dom.h"
 #include "orbaggregatestatistic.h"
 #include "orbarea.h"
 #include "orbattach.h"
@@ -11,7 +12,6 @@
 #include "orbdash.h"
 #include "orbedge.h"
 #include "orbevaluatestatistic.h"
-#include "orbexception.h"
 #include "orbimage.h"
 #include "orbinterval.h"
 #include "orbline.h"
@@ -36,8 +36,7 @@
 #include "orbx.h"
 #include "orby.h"
 #include "orbz.h"
-
-#include "support/dom.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
@@ -47,21 +46,13 @@
 #include <vector>
 
 using test::childrenOf;
+using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
 using test::utf8;
 using xercesc::DOMElement;
 
 namespace {
-
-template <class Action> std::string messageOf(Action action) {
-  try {
-    action();
-  } catch (const OrbException& exception) {
-    return exception.what();
-  }
-  return "nothing raised";
-}
 
 DOMElement* addElement(const NewDocument& document, const XMLCh* name) {
   return static_cast<DOMElement*>(document.root()->appendChild(document.document()->createElement(name)));

@@ -1,5 +1,6 @@
 // Graphs: the order and the limits of their children, and their coordinates, dimensions and scales.
 #include "chartstring.h"
+#include "dom.h"
 #include "orbarea.h"
 #include "orbcategoricaldomain.h"
 #include "orbcoordinates.h"
@@ -30,30 +31,21 @@
 #include "orbx.h"
 #include "orby.h"
 #include "orbz.h"
-#include "support/dom.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <sstream>
 #include <string>
 
 using test::childrenOf;
+using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
 using test::utf8;
 using xercesc::DOMElement;
 
 namespace {
-
-std::string messageOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const OrbException& exception) {
-    return exception.what();
-  }
-  return "nothing raised";
-}
 
 /// A graph of a new document.
 class Graph : public testing::Test {

@@ -5,23 +5,23 @@
 #include "log.h"
 #include "orbdocument.h"
 #include "orbembeddedsource.h"
-#include "orbexception.h"
 #include "orbgraph.h"
 #include "orbnames.h"
 #include "orbrow.h"
 #include "orbsourcevariable.h"
 #include "orbvariablename.h"
 #include "orbvisualization.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
 
 using test::childrenOf;
+using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
 using test::utf8;
@@ -30,15 +30,6 @@ using xercesc::DOMElement;
 using xercesc::DOMNode;
 
 namespace {
-
-std::string messageOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const OrbException& exception) {
-    return exception.what();
-  }
-  return "nothing raised";
-}
 
 std::string loadingOf(DOMDocument* document) {
   return messageOf([=] { const OrbDocument loaded(document); });

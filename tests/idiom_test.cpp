@@ -5,21 +5,21 @@
 #include "elementtext.h"
 #include "family.h"
 #include "keyword.h"
-#include "orbexception.h"
 #include "orbuni.h"
 #include "placement.h"
+#include "raised.h"
 #include "reference.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <random>
 #include <stdexcept>
 #include <string_view>
 
 using namespace orbchart;
 using test::childrenOf;
+using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
 using xercesc::DOMElement;
@@ -89,15 +89,6 @@ public:
   }
   ChildFamilies<FamilyList<Leaf>> children;
 };
-
-std::string messageOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const OrbException& exception) {
-    return exception.what();
-  }
-  return "nothing raised";
-}
 
 } // namespace
 

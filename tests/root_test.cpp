@@ -1,4 +1,5 @@
 // The root: the bands of its children, their removal, loading, and its own attributes.
+#include "dom.h"
 #include "orbcategoricaldomain.h"
 #include "orbcategoricaldomainmodifier.h"
 #include "orbdatabasesource.h"
@@ -17,8 +18,6 @@
 #include "orbstyle.h"
 #include "orbusersource.h"
 #include "orbvisualization.h"
-
-#include "support/dom.h"
 
 #include <gtest/gtest.h>
 

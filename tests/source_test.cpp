@@ -1,5 +1,6 @@
 // Data sources: the shape that they share, what each has beside it, and the rows of an embedded source.
 #include "chartstring.h"
+#include "dom.h"
 #include "orbaggregate.h"
 #include "orbdatabasesource.h"
 #include "orbdatareduction.h"
@@ -13,29 +14,18 @@
 #include "orbstreamingsource.h"
 #include "orbtypes.h"
 #include "orbusersource.h"
-
-#include "support/dom.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 using test::childrenOf;
+using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
 using test::Platform;
 using test::utf8;
 
 namespace {
-
-std::string messageOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const OrbException& exception) {
-    return exception.what();
-  }
-  return "nothing raised";
-}
 
 /// What all sources share; `added` is where their children stand after an add of each kind.
 template <class Source> void expectSource(const std::string& added) {

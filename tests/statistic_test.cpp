@@ -1,4 +1,5 @@
 // Summaries, bins and conditions: one list of keywords in several numberings, fallbacks, getters unlike their setters.
+#include "dom.h"
 #include "orbaggregate.h"
 #include "orbaggregation.h"
 #include "orbbinstatistic.h"
@@ -10,7 +11,6 @@
 #include "orbsummarystatistic.h"
 #include "orbwhen.h"
 #include "orbwhere.h"
-#include "support/dom.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // Styles: the record of attributes, each with its own name, and what deviates from the idioms; references to styles.
 #include "chartstring.h"
+#include "dom.h"
 #include "orbconditionalstyle.h"
 #include "orbexception.h"
 #include "orbstyle.h"
 #include "orbstylereference.h"
-#include "support/dom.h"
 
 #include <gtest/gtest.h>
 

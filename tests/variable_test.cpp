@@ -1,5 +1,6 @@
 // Variables: what they refer to, what they hold, and how they load.
 #include "chartstring.h"
+#include "dom.h"
 #include "orbaggregation.h"
 #include "orbcategoricaldomain.h"
 #include "orbdatabasesource.h"
@@ -19,8 +20,6 @@
 #include "orbvariablename.h"
 #include "orbvariablereference.h"
 #include "orbvisualization.h"
-
-#include "support/dom.h"
 
 #include <gtest/gtest.h>
 

@@ -3,15 +3,13 @@
 #include "domprinter.h"
 
 #include "dom.h"
+#include "log.h"
 
 #include <gtest/gtest.h>
 #include <xercesc/framework/XMLFormatter.hpp>
 #include <xercesc/util/RuntimeException.hpp>
 #include <xercesc/util/XMLException.hpp>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -64,37 +62,6 @@ public:
 private:
   test::Platform platform_;
   std::unique_ptr<xercesc::XercesDOMParser> parser_;
-};
-
-/// The error log, for as long as this stands.
-class Log {
-public:
-  Log() {
-    std::string name = testing::TempDir() + "orbchartXXXXXX";
-    directory_ = mkdtemp(name.data());
-    setenv("DumpChartXMLPath", directory_.c_str(), 1);
-  }
-  Log(const Log&) = delete;
-  Log& operator=(const Log&) = delete;
-  ~Log() {
-    unsetenv("DumpChartXMLPath");
-    std::filesystem::remove_all(directory_);
-    std::filesystem::remove(path());
-  }
-
-  unsigned int entries() const {
-    std::ostringstream text;
-    text << std::ifstream(path()).rdbuf();
-    unsigned int count = 0;
-    for (std::size_t at = 0; (at = text.str().find("XML Error -- ", at)) != std::string::npos; ++at)
-      ++count;
-    return count;
-  }
-
-private:
-  std::string path() const { return directory_.string() + "\\orbchart_error.log"; }
-
-  std::filesystem::path directory_;
 };
 
 TEST(Writer, LaysOutLines) {
@@ -313,9 +280,9 @@ TEST(Writer, LeavesOutWhatTheEncodingCannotHold) {
     element->appendChild(encoded.document()->createComment(text));
     element->appendChild(encoded.document()->createElement(u"after"));
 
-    const Log log;
+    const test::Log log;
     std::string bytes = flat(encoded.document());
-    EXPECT_EQ(log.entries(), 3u) << "one for each piece";
+    EXPECT_EQ(log.messages().size(), 3u) << "one for each piece";
     const Parsed again(bytes);
     const auto* read = static_cast<DOMElement*>(again.root()->getFirstChild());
     EXPECT_EQ(utf8(read->getAttribute(u"v")), utf8(kept));
@@ -338,12 +305,12 @@ TEST(Writer, KeepsPairsTogetherWhereItsBufferEnds) {
 
 TEST(Writer, LetsTheExceptionOfAnUnknownEncodingPass) {
   const Declared unknown("nonsense");
-  const Log log;
+  const test::Log log;
   std::ostringstream stream;
   ChartPrinter printer;
   EXPECT_THROW(printer.Print(unknown.document(), stream), xercesc::XMLException);
   EXPECT_EQ(stream.str(), "");
-  EXPECT_EQ(log.entries(), 0u);
+  EXPECT_EQ(log.messages().size(), 0u);
   EXPECT_TRUE(printer.Print(Parsed("<r/>").document(), stream)) << "and the printer is none the worse";
 }
 
@@ -433,9 +400,9 @@ template <> void Failing<std::runtime_error>::fail() { throw std::runtime_error(
 
 TEST(Writer, GoesOnAfterAnXmlExceptionOfADerivedPrinter) {
   const Parsed parsed("<r><b/><c/></r>");
-  const Log log;
+  const test::Log log;
   EXPECT_EQ(printed<Failing<xercesc::XMLException>>(false, parsed.document()), declaration + "<r><b/><c/></r>\n");
-  EXPECT_EQ(log.entries(), 1u);
+  EXPECT_EQ(log.messages().size(), 1u);
 }
 
 TEST(Writer, StartsAfreshAfterAnyOtherException) {
@@ -469,9 +436,9 @@ public:
 
 TEST(Writer, WritesStringsByTheSettingsOfTheFormatter) {
   const Parsed parsed("<r/>");
-  const Log log;
+  const test::Log log;
   EXPECT_EQ(printed<Texts>(false, parsed.document()), declaration + "ab<\U0001F600&lt;<r/>\n");
-  EXPECT_EQ(log.entries(), 2u);
+  EXPECT_EQ(log.messages().size(), 2u);
 
   std::ostringstream stream;
   DOMPrinter printer;
