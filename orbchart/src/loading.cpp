@@ -105,9 +105,9 @@ const LoadedFamily* findFamily(const XMLCh* name, const LoadedFamily* known, std
 // The frames of these two, and of a wrapper's constructor, are what one level of nesting costs of the stack: what
 // needs more room is kept out of them.
 
-void wrapChild(const OrbBaseElement& parent, DOMElement& child, void* families, const LoadedFamily* known,
-               std::size_t count, Unknown unknown) {
-  if (const LoadedFamily* family = findFamily(child.getTagName(), known, count))
+void wrapChild(const OrbBaseElement& parent, DOMElement& child, void* families, const LoadedFamily* family,
+               Unknown unknown) {
+  if (family != nullptr)
     family->wrap(families, child);
   else if (unknown == Unknown::raises)
     raiseUnknown(parent, child);
@@ -120,9 +120,18 @@ void wrapChildren(const OrbBaseElement& parent, DOMNode* node, void* families, c
   const Level level;
   if (running->level > maximumNesting)
     raiseTooDeep(elementOf(running->outermost));
+  // A document holds each name once, and most children have the name of the one before.
+  const XMLCh* name = nullptr;
+  const LoadedFamily* family = nullptr;
   for (; node != nullptr; node = node->getNextSibling()) {
-    if (node->getNodeType() == DOMNode::ELEMENT_NODE)
-      wrapChild(parent, static_cast<DOMElement&>(*node), families, known, count, unknown);
+    if (node->getNodeType() != DOMNode::ELEMENT_NODE)
+      continue;
+    auto& child = static_cast<DOMElement&>(*node);
+    if (child.getTagName() != name) {
+      name = child.getTagName();
+      family = findFamily(name, known, count);
+    }
+    wrapChild(parent, child, families, family, unknown);
   }
 }
 
@@ -181,7 +190,8 @@ void loadChild(const OrbBaseElement& parent, DOMNode* node, void* families, cons
     return;
   runLoad(parent, [&] {
     const Level level;
-    wrapChild(parent, static_cast<DOMElement&>(*node), families, known, count, Unknown::raises);
+    auto& child = static_cast<DOMElement&>(*node);
+    wrapChild(parent, child, families, findFamily(child.getTagName(), known, count), Unknown::raises);
   });
 }
 
