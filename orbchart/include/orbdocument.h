@@ -11,7 +11,8 @@ class OrbVisualization;
 /// What a host holds of a chart. The XML platform is up while it lives.
 class ORBCHART_EXPORT OrbDocument {
 public:
-  /// A new, empty document, which goes with this object.
+  /// A new, empty document, which goes with this object. Handlers of user data that the host put on its nodes are not
+  /// called then.
   OrbDocument();
 
   /// Wraps a DOM that the host's parser made. The host keeps the DOM and its parser, and keeps both until this object

@@ -60,6 +60,10 @@ void writeDouble(OrbBaseElement& wrapper, const XMLCh* name, double value) {
 }
 
 void writeId(OrbBaseElement& wrapper, const XMLCh* id) {
+  if (wrapper.getImplementation()->getAttributeNode(OrbUni::_id) == nullptr) {
+    wrapper.addID(id);
+    return;
+  }
   // The id may be the text of the attribute that goes.
   const ChartString kept(id);
   removeAttribute(wrapper, OrbUni::_id);

@@ -4,7 +4,6 @@
 #include "chartstring.h"
 #include "raise.h"
 
-#include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/util/XMLString.hpp>
 
@@ -199,15 +198,6 @@ void refuseDeepContent(const OrbBaseElement& wrapper) {
   DOMElement& element = elementOf(wrapper);
   if (hasChildElement(element))
     refuseDeepContent(element, running == nullptr ? 0 : running->level);
-}
-
-void detachDeepContent(xercesc::DOMDocument& document) {
-  DOMElement* top = document.getDocumentElement();
-  unsigned int level = 0;
-  for (DOMElement* element = top; element != nullptr; element = nextElement(element, *top, level)) {
-    while (level == maximumNesting && element->getFirstChild() != nullptr)
-      element->removeChild(element->getFirstChild());
-  }
 }
 
 } // namespace orbchart

@@ -9,8 +9,8 @@
 
 namespace orbchart {
 
-/// The deepest nesting of elements that a load accepts. Loading recurses, and so does Xerces when it releases a
-/// document that has wrappers: what lies deeper would overflow the stack of the host.
+/// The deepest nesting of elements that a load accepts. Loading recurses, and so does Xerces when a host releases its
+/// document that has had wrappers: what lies deeper would overflow the stack.
 inline constexpr unsigned int maximumNesting = 10'240;
 
 /// Registers a wrapper on its element under a key, by which references find it.
@@ -55,8 +55,5 @@ template <class Wrapper> void bindLeafUnder(const XMLCh* key, Wrapper& wrapper) 
   bindUnder(key, wrapper, &wrapper);
 }
 template <class Wrapper> void bindLeaf(Wrapper& wrapper) { bindLeafUnder(Wrapper::elementName, wrapper); }
-
-/// Takes out of a document what lies deeper than maximumNesting, so that it can be released.
-void detachDeepContent(xercesc::DOMDocument& document);
 
 } // namespace orbchart

@@ -2,7 +2,6 @@
 #include "orbdocument.h"
 
 #include "chartstring.h"
-#include "loading.h"
 #include "orbutility.h"
 #include "orbvisualization.h"
 #include "raise.h"
@@ -52,7 +51,9 @@ OrbDocument::OrbDocument(DOMDocument* document) : document_(document), visualiza
 OrbDocument::~OrbDocument() {
   // The order is required: the wrappers go after the DOM and the platform, and no wrapper touches the DOM any more.
   if (ownsDocument_) {
-    orbchart::detachDeepContent(*document_);
+    // Xerces walks, by recursion, over a document that has wrappers. Without its root there is nothing to walk over.
+    if (DOMElement* root = document_->getDocumentElement())
+      document_->removeChild(root);
     document_->release();
   }
   OrbUtility::Terminate();
