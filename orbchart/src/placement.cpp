@@ -11,14 +11,24 @@ using xercesc::DOMNode;
 namespace orbchart {
 namespace {
 
-/// Looking at a child is cheap, where asking a follower for its parent is not.
-constexpr int nearTheFront = 4;
+/// How many siblings are looked at before a node is asked for its parent, which costs more.
+constexpr int few = 4;
+
+/// Whether a node is one of the few siblings after another.
+bool followsClosely(const DOMNode* node, const DOMNode* other) {
+  for (int step = 0; other != nullptr && step < few; ++step) {
+    other = other->getNextSibling();
+    if (other == node)
+      return true;
+  }
+  return false;
+}
 
 /// The one of two siblings that comes first, searched from both of them and from a sibling ahead of them at once.
-DOMNode* earlier(DOMNode* one, DOMNode* other, DOMNode* ahead) {
+DOMNode* earlier(DOMNode* one, DOMNode* other, DOMNode* front) {
   const DOMNode* afterOne = one;
   const DOMNode* afterOther = other;
-  for (; ahead != one && ahead != other; ahead = ahead->getNextSibling()) {
+  for (; front != one && front != other; front = front->getNextSibling()) {
     afterOne = afterOne->getNextSibling();
     afterOther = afterOther->getNextSibling();
     if (afterOne == other || afterOther == nullptr)
@@ -26,7 +36,7 @@ DOMNode* earlier(DOMNode* one, DOMNode* other, DOMNode* ahead) {
     if (afterOther == one || afterOne == nullptr)
       return other;
   }
-  return ahead;
+  return front;
 }
 
 /// The first of the parent's children that is one of the followers; null when none is.
@@ -35,15 +45,18 @@ DOMNode* firstAmong(const DOMElement& parent, DOMNode* const* followers, std::si
   if (std::all_of(followers, end, [](const DOMNode* follower) { return follower == nullptr; }))
     return nullptr;
   DOMNode* front = parent.getFirstChild();
-  for (int step = 0; front != nullptr && step < nearTheFront; ++step, front = front->getNextSibling()) {
+  for (int step = 0; front != nullptr && step < few; ++step, front = front->getNextSibling()) {
     if (std::find(followers, end, front) != end)
       return front;
   }
+  if (front == nullptr)
+    return nullptr;
   DOMNode* first = nullptr;
-  for (DOMNode* const* follower = followers; front != nullptr && follower != end; ++follower) {
-    if (*follower == nullptr || *follower == first || (*follower)->getParentNode() != &parent)
+  for (DOMNode* const* follower = followers; follower != end; ++follower) {
+    if (*follower == nullptr || *follower == first || followsClosely(*follower, first))
       continue;
-    first = first == nullptr ? *follower : earlier(first, *follower, front);
+    if ((*follower)->getParentNode() == &parent)
+      first = first == nullptr ? *follower : earlier(first, *follower, front);
   }
   return first;
 }
