@@ -81,7 +81,10 @@ template <class Operation> void expectOperation() {
   operation.addRange();
   operation.addCategories2();
   EXPECT_EQ(childrenOf(parsed.root()), "range categories2 variableReference range categories2");
+  xercesc::DOMElement* removed = operation.getCategories2s().at(0)->getImplementation();
+  EXPECT_NE(removed->getUserData(u"categories"), nullptr);
   EXPECT_EQ(operation.removeCategories2s(), 2U);
+  EXPECT_EQ(removed->getUserData(u"categories"), nullptr);
   EXPECT_EQ(operation.removeRanges(), 2U);
   EXPECT_EQ(operation.getVariableReferences().size(), 1U);
   EXPECT_TRUE(refuses<Operation>("<categories/>"));

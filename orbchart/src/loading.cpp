@@ -2,6 +2,8 @@
 #include "loading.h"
 
 #include "chartstring.h"
+#include "orbcategories2.h"
+#include "orbuni.h"
 #include "raise.h"
 
 #include <xercesc/dom/DOMElement.hpp>
@@ -12,6 +14,7 @@
 
 using xercesc::DOMElement;
 using xercesc::DOMNode;
+using xercesc::XMLString;
 
 namespace orbchart {
 namespace {
@@ -81,6 +84,13 @@ DOMElement* nextElement(DOMNode* node, const DOMElement& top, unsigned int& leve
   }
 }
 
+/// Wrappers are registered under the names of their elements, but for the one of categories2.
+void unbind(DOMElement& element) {
+  const XMLCh* name = element.getTagName();
+  element.setUserData(XMLString::equals(name, OrbCategories2::elementName) ? OrbUni::_categories : name, nullptr,
+                      nullptr);
+}
+
 /// Most leaves hold a text at most. Asking siblings alone is cheap, where asking for a parent is not.
 bool hasChildElement(const DOMElement& element) {
   const DOMNode* node = element.getFirstChild();
@@ -91,7 +101,7 @@ bool hasChildElement(const DOMElement& element) {
 
 const LoadedFamily* findFamily(const XMLCh* name, const LoadedFamily* known, std::size_t count) {
   for (const LoadedFamily* family = known; family != known + count; ++family) {
-    if (family->elementName[0] == name[0] && xercesc::XMLString::equals(family->elementName, name))
+    if (family->elementName[0] == name[0] && XMLString::equals(family->elementName, name))
       return family;
   }
   return nullptr;
@@ -169,7 +179,7 @@ void bindUnder(const XMLCh* key, const OrbBaseElement& wrapper, void* typedWrapp
 void unbindTree(DOMElement& top) {
   unsigned int level = 0;
   for (DOMElement* element = &top; element != nullptr; element = nextElement(element, top, level))
-    element->setUserData(element->getTagName(), nullptr, nullptr);
+    unbind(*element);
 }
 
 void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFamily* known, std::size_t count,
