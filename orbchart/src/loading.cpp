@@ -144,6 +144,16 @@ void wrapChildren(const OrbBaseElement& parent, DOMNode* node, void* families, c
   }
 }
 
+/// An element has left the processor's cache since it was wrapped, and is fetched again some bindings ahead.
+void bindAll(const std::vector<Binding>& bindings) {
+  constexpr std::size_t ahead = 8;
+  for (std::size_t i = 0; i < bindings.size(); ++i) {
+    if (i + ahead < bindings.size())
+      __builtin_prefetch(bindings[i + ahead].element);
+    bindings[i].element->setUserData(bindings[i].key, bindings[i].wrapper, nullptr);
+  }
+}
+
 /// Runs a load from its outermost wrapper on. What it has made is bound at its end; when it fails, nothing is.
 template <class Step> [[gnu::noinline]] void runLoad(const OrbBaseElement& outermost, Step step) {
   struct Running {
@@ -157,8 +167,7 @@ template <class Step> [[gnu::noinline]] void runLoad(const OrbBaseElement& outer
     const Running whileThisRuns(load);
     step();
   }
-  for (const Binding& binding : load.bindings)
-    binding.element->setUserData(binding.key, binding.wrapper, nullptr);
+  bindAll(load.bindings);
 }
 
 [[gnu::noinline]] void loadFromHere(const OrbBaseElement& parent, DOMNode* first, void* families,
