@@ -118,6 +118,8 @@ template <class Wrapper> void expectRaises() {
     EXPECT_EQ(message.find("Element " + utf8(Wrapper::elementName) + " found unknown child " + child + "("), 0U)
         << message;
     EXPECT_EQ(parsed.root()->getUserData(Wrapper::elementName), nullptr);
+    DOMElement* refused = parsed.root()->getFirstElementChild();
+    EXPECT_EQ(refused->getUserData(refused->getTagName()), nullptr) << "a wrapper that has ended";
     EXPECT_EQ(childrenOf(parsed.root()), child);
   }
   const Parsed parsed(around<Wrapper>(" <!-- none --> "));

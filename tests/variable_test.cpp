@@ -133,6 +133,8 @@ TEST(Variables, PassOverUnknownChildrenSaveTheMultipleResponse) {
   for (const std::string child : {"bogus", "aggregation", "format"}) {
     const Parsed parsed("<multipleResponseVariable><variableReference/><" + child + "/></multipleResponseVariable>");
     EXPECT_THROW(OrbMultipleResponseVariable variable(parsed.root()), OrbException) << child;
+    xercesc::DOMElement* refused = parsed.root()->getLastElementChild();
+    EXPECT_EQ(refused->getUserData(refused->getTagName()), nullptr) << "a wrapper that has ended";
   }
 
   // What the base's operations build, the loader refuses.

@@ -86,6 +86,9 @@ public:
 
 protected:
   explicit CTAesthetic(xercesc::DOMElement* element);
+  /// For a class that refuses the children which are wrapped here, and loads for itself.
+  struct WithoutChildren {};
+  CTAesthetic(xercesc::DOMElement* element, WithoutChildren);
 
 private:
   struct Children;

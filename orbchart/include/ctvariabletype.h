@@ -117,6 +117,9 @@ public:
 protected:
   explicit CTVariableType(xercesc::DOMElement* element);
   CTVariableType(xercesc::DOMElement* element, const XMLCh* id);
+  /// For a class that refuses the children which are wrapped here, and loads for itself.
+  struct WithoutChildren {};
+  CTVariableType(xercesc::DOMElement* element, WithoutChildren);
 
 private:
   struct Children;

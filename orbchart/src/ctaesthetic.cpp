@@ -28,6 +28,7 @@ CTAesthetic::CTAesthetic(DOMElement* element) : OrbBaseElement(element), childre
   // A concrete aesthetic may have children of its own beside the base's.
   children_->load(*this, Unknown::passes);
 }
+CTAesthetic::CTAesthetic(DOMElement* element, WithoutChildren) : OrbBaseElement(element), children_(new Children) {}
 CTAesthetic::~CTAesthetic() = default;
 
 const XMLCh* CTAesthetic::getId() const { return GetAttribute(OrbUni::_id); }

@@ -38,6 +38,8 @@ CTVariableType::CTVariableType(DOMElement* element) : OrbBaseElement(element), c
   children_->load(*this, Unknown::passes);
 }
 CTVariableType::CTVariableType(DOMElement* element, const XMLCh* id) : CTVariableType(element) { setId(id); }
+CTVariableType::CTVariableType(DOMElement* element, WithoutChildren) :
+    OrbBaseElement(element), children_(new Children) {}
 CTVariableType::~CTVariableType() = default;
 
 const XMLCh* CTVariableType::getId() const { return GetAttribute(OrbUni::_id); }

@@ -9,7 +9,7 @@ using xercesc::DOMElement;
 
 struct OrbFootnotes::Children : ChildFamilies<FamilyList<>> {};
 
-OrbFootnotes::OrbFootnotes(DOMElement* element) : CTAesthetic(element), children_(new Children) {
+OrbFootnotes::OrbFootnotes(DOMElement* element) : CTAesthetic(element, WithoutChildren()), children_(new Children) {
   children_->load(*this);
   bind(*this);
 }

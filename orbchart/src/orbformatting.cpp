@@ -8,7 +8,7 @@ using xercesc::DOMElement;
 
 struct OrbFormatting::Children : ChildFamilies<FamilyList<>> {};
 
-OrbFormatting::OrbFormatting(DOMElement* element) : CTAesthetic(element), children_(new Children) {
+OrbFormatting::OrbFormatting(DOMElement* element) : CTAesthetic(element, WithoutChildren()), children_(new Children) {
   children_->load(*this);
   bind(*this);
 }

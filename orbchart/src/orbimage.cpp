@@ -10,7 +10,7 @@ using xercesc::DOMElement;
 
 struct OrbImage::Children : ChildFamilies<FamilyList<>> {};
 
-OrbImage::OrbImage(DOMElement* element) : CTAesthetic(element), children_(new Children) {
+OrbImage::OrbImage(DOMElement* element) : CTAesthetic(element, WithoutChildren()), children_(new Children) {
   children_->load(*this);
   bind(*this);
 }

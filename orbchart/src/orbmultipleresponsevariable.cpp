@@ -11,7 +11,7 @@ using xercesc::DOMElement;
 struct OrbMultipleResponseVariable::Children : ChildFamilies<FamilyList<OrbVariableReference>> {};
 
 OrbMultipleResponseVariable::OrbMultipleResponseVariable(DOMElement* element) :
-    CTVariableType(element), children_(new Children) {
+    CTVariableType(element, WithoutChildren()), children_(new Children) {
   children_->load(*this);
   bind(*this);
 }

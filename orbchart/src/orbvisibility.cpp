@@ -10,7 +10,7 @@ using xercesc::DOMElement;
 
 struct OrbVisibility::Children : ChildFamilies<FamilyList<>> {};
 
-OrbVisibility::OrbVisibility(DOMElement* element) : CTAesthetic(element), children_(new Children) {
+OrbVisibility::OrbVisibility(DOMElement* element) : CTAesthetic(element, WithoutChildren()), children_(new Children) {
   children_->load(*this);
   bind(*this);
 }
