@@ -378,4 +378,18 @@ TEST(Formatter, TheGlobalLocaleChangesNothing) {
   std::locale::global(before);
 }
 
+/// What a host's own static objects may do when the program ends, after the thread's own objects have gone.
+struct ConvertsAtTheEnd {
+  ~ConvertsAtTheEnd() { std::_Exit(ChartString(u"Gr\u00f6\u00dfe").toUTF8() == "Gr\u00f6\u00dfe" ? 0 : 1); }
+};
+
+TEST(ChartString, ConvertsForStaticObjectsThatEnd) {
+  const auto program = [] {
+    static const ConvertsAtTheEnd atTheEnd;
+    EXPECT_FALSE(ChartString(u"\u00f6").toUTF8().empty());
+    std::exit(2);
+  };
+  EXPECT_EXIT(program(), testing::ExitedWithCode(0), "");
+}
+
 } // namespace

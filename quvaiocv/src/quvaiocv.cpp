@@ -12,6 +12,7 @@
 #include <new>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace {
 
@@ -81,23 +82,41 @@ private:
   iconv_t descriptor_;
 };
 
-Converter& utf8ToUtf16() {
-  thread_local Converter converter(utf16, utf8);
-  return converter;
+/// What a thread keeps between calls.
+struct Kept {
+  Converter toUtf16{utf16, utf8};
+  Converter toUtf8{utf8, utf16};
+  std::u16string truncated;
+};
+
+/// The thread's own. It outlives the thread's destructors: static objects may still convert in theirs, and by then
+/// what a thread_local object held is gone.
+Kept& kept() {
+  thread_local Kept* current = nullptr;
+  thread_local bool isOver = false;
+  struct Owner {
+    ~Owner() {
+      delete std::exchange(current, nullptr);
+      isOver = true;
+    }
+  };
+  if (!current) {
+    current = new Kept;
+    if (!isOver) {
+      thread_local Owner owner;
+      static_cast<void>(owner);
+    }
+  }
+  return *current;
 }
 
-Converter& utf16ToUtf8() {
-  thread_local Converter converter(utf8, utf16);
-  return converter;
-}
-
-template <class Target, class Source> Target* transcode(const Source* text, Converter& (*converter)()) {
+template <class Target, class Source> Target* transcode(const Source* text, Converter Kept::*converter) {
   if (!text)
     return nullptr;
   const std::basic_string_view<Source> source(text);
   if (isAscii(source))
     return copyUnits<Target>(source);
-  const std::basic_string<Target> target = converter().template convert<Target>(source);
+  const std::basic_string<Target> target = (kept().*converter).template convert<Target>(source);
   return copyUnits<Target>(std::basic_string_view<Target>(target));
 }
 
@@ -136,9 +155,9 @@ void QUVAMBAppend(char16_t** buffer, const char16_t* text) {
   *std::copy_n(isInside ? *buffer + offset : text, added, end) = 0;
 }
 
-char16_t* QUVAMBTranscodeU8(const char* text) { return transcode<char16_t>(text, utf8ToUtf16); }
+char16_t* QUVAMBTranscodeU8(const char* text) { return transcode<char16_t>(text, &Kept::toUtf16); }
 
-char* QUVAMBTranscodeU8(const char16_t* text) { return transcode<char>(text, utf16ToUtf8); }
+char* QUVAMBTranscodeU8(const char16_t* text) { return transcode<char>(text, &Kept::toUtf8); }
 
 char16_t* QUVAMBTranscodeGeneric(const char* text) { return QUVAMBTranscodeU8(text); }
 
@@ -165,7 +184,7 @@ const char16_t* QUVAMBStringTruncate_W(const char16_t* text, unsigned long n) {
     return nullptr;
   const std::u16string_view whole(text);
   const bool partsPair = n > 0 && n < whole.size() && isHighSurrogate(whole[n - 1]) && isLowSurrogate(whole[n]);
-  thread_local std::u16string result;
+  std::u16string& result = kept().truncated;
   result = whole.substr(0, partsPair ? n - 1 : n);
   return result.c_str();
 }
