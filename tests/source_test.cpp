@@ -170,6 +170,10 @@ TEST(Rows, HaveFieldsBetweenSemicolonsAndNoEmptyOnes) {
   EXPECT_EQ(row.getText().toUTF8(), "a;x");
   EXPECT_TRUE(row.setText(u"", 0));
   EXPECT_EQ(row.getText().toUTF8(), "x");
+  row.setText(u"a;b;c");
+  EXPECT_TRUE(row.setText(nullptr, 1));
+  EXPECT_EQ(row.getText().toUTF8(), "a;;c");
+  EXPECT_EQ(row.getText(1U).toUTF8(), "c");
   row.removeText();
   EXPECT_FALSE(row.setText(u"x", 0));
   EXPECT_EQ(childrenOf(parsed.root()), "");

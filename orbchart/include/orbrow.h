@@ -26,6 +26,6 @@ public:
   /// The field at a position, counted from 0; empty past the end.
   ChartString getText(unsigned int index) const;
   /// Replaces a field and writes the row anew, with one ";" between its fields; false past the end, and then nothing
-  /// is written. An empty text takes the first field away.
+  /// is written. An empty text takes the field away; the ";" on both sides of it stay, unless it was the first.
   bool setText(const XMLCh* text, unsigned int index);
 };

@@ -4,9 +4,9 @@
 #include "elementtext.h"
 #include "loading.h"
 
-#include <xercesc/util/XMLStringTokenizer.hpp>
-
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 using namespace orbchart;
 
@@ -15,12 +15,17 @@ namespace {
 /// The fields of a row, one after the other.
 class Fields {
 public:
-  explicit Fields(const ChartString& row) : tokens_(row.empty() ? u"" : row.xc_str(), u";") {}
-  /// The next field; null after the last.
-  const XMLCh* next() { return tokens_.nextToken(); }
+  explicit Fields(const ChartString& row) : rest_(row.empty() ? u"" : row.xc_str()) {}
+  /// The next field; empty after the last.
+  std::basic_string_view<XMLCh> next() {
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(u';'), rest_.size()));
+    const auto field = rest_.substr(0, rest_.find(u';'));
+    rest_.remove_prefix(field.size());
+    return field;
+  }
 
 private:
-  xercesc::XMLStringTokenizer tokens_;
+  std::basic_string_view<XMLCh> rest_;
 };
 
 } // namespace
@@ -35,23 +40,24 @@ void OrbRow::removeText() { clearText(*this); }
 ChartString OrbRow::getText(unsigned int index) const {
   const ChartString row = getText();
   Fields fields(row);
-  const XMLCh* field = fields.next();
-  for (; field != nullptr && index != 0; --index)
+  auto field = fields.next();
+  for (; !field.empty() && index != 0; --index)
     field = fields.next();
-  return ChartString(field);
+  return ChartString(std::basic_string<XMLCh>(field).c_str());
 }
 
 bool OrbRow::setText(const XMLCh* text, unsigned int index) {
   const ChartString row = getText();
   Fields fields(row);
+  const std::basic_string_view<XMLCh> replacement(text == nullptr ? u"" : text);
   std::basic_string<XMLCh> changed;
   bool replaced = false;
-  for (unsigned int position = 0; const XMLCh* field = fields.next(); ++position) {
+  unsigned int position = 0;
+  for (auto field = fields.next(); !field.empty(); field = fields.next(), ++position) {
     if (!changed.empty())
       changed += u';';
     replaced = replaced || position == index;
-    const XMLCh* content = position == index ? text : field;
-    changed += content == nullptr ? u"" : content;
+    changed += position == index ? replacement : field;
   }
   if (replaced)
     setText(changed.c_str());
