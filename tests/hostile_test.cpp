@@ -3,9 +3,13 @@
 #include "chartstring.h"
 #include "dom.h"
 #include "log.h"
+#include "orbcategoricaldomain.h"
+#include "orbcoordinates.h"
 #include "orbdocument.h"
 #include "orbembeddedsource.h"
+#include "orbfilter.h"
 #include "orbgraph.h"
+#include "orbintervaldomain.h"
 #include "orbnames.h"
 #include "orbrow.h"
 #include "orbsourcevariable.h"
@@ -107,10 +111,13 @@ TEST(UnknownElement, EndsEachWayOfWrappingByItself) {
   EXPECT_EQ(boundElements(*document.getImplementation()), 2U);
 }
 
-TEST(BadRoot, IsRefusedInWords) {
+TEST(Roots, AreRefusedWhereThereIsNone) {
   EXPECT_EQ(loadingOf(nullptr), "There is no document to wrap: the pointer is null.");
-  const NewDocument other(u"graph");
-  EXPECT_EQ(loadingOf(other.document()), "The root element is graph and not visualization.");
+  const NewDocument other(u"chart");
+  other.root()->appendChild(other.document()->createElement(u"graph"));
+  EXPECT_EQ(loadingOf(other.document()), "nothing raised") << "the root's own name is not asked for";
+  other.root()->appendChild(other.document()->createElement(u"row"));
+  EXPECT_EQ(loadingOf(other.document()), "Element chart found unknown child row(<chart><graph/><row/></chart>\n)");
   other.document()->removeChild(other.root())->release();
   EXPECT_EQ(loadingOf(other.document()), "There is no chart in the document: it has no root element.");
 }
@@ -198,6 +205,12 @@ TEST(NullElement, IsRefusedByEveryWrapper) {
   EXPECT_EQ(messageOf([] { const OrbSourceVariable wrapper(nullptr, u"id"); }), message);
   EXPECT_EQ(messageOf([] { const OrbEmbeddedSource wrapper(nullptr, u"id"); }), message);
   EXPECT_EQ(messageOf([] { const OrbRow wrapper(nullptr); }), message);
+  EXPECT_EQ(messageOf([] { const OrbCoordinates wrapper(nullptr, u"id"); }), message);
+  OrbDocument document;
+  const OrbCategoricalDomain& categories = *document.GetVisualization()->addCategoricalDomain(u"c");
+  EXPECT_EQ(messageOf([&] { const OrbFilter wrapper(nullptr, u"name", categories); }), message);
+  const OrbIntervalDomain& interval = *document.GetVisualization()->addIntervalDomain(u"i");
+  EXPECT_EQ(messageOf([&] { const OrbFilter wrapper(nullptr, u"name", interval); }), message);
 }
 
 TEST(OwnTexts, MayBeArguments) {

@@ -19,9 +19,10 @@ public:
   /// has gone.
   ///
   /// The whole tree is wrapped at once. An unknown element raises the text of OrbBaseElement::ChildNotFoundError,
-  /// elements nested too deep raise "Elements are nested more than 10240 levels deep below visualization."; a null
-  /// pointer, a document without a root and a root of another name raise what they are. When it raises, the DOM is as
-  /// it was.
+  /// except under variables and aesthetics, which pass it over, and under elements that have text alone; elements
+  /// nested too deep raise "Elements are nested more than 10240 levels deep below visualization."; a null pointer and a
+  /// document without a root raise what they are. When it raises, the DOM is as it was. The root is taken for a
+  /// visualization whatever its name is.
   ///
   /// References find only elements whose `id` was marked as an ID attribute: by a parser that validates, or by the
   /// host with `DOMElement::setIdAttribute` before this call or after.

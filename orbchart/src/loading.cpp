@@ -213,6 +213,8 @@ void loadChild(const OrbBaseElement& parent, DOMNode* node, void* families, cons
   });
 }
 
+void requireElement(const OrbBaseElement& wrapper) { static_cast<void>(elementOf(wrapper)); }
+
 void refuseDeepContent(const OrbBaseElement& wrapper) {
   DOMElement& element = elementOf(wrapper);
   if (hasChildElement(element))

@@ -47,6 +47,9 @@ void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFami
 void loadChild(const OrbBaseElement& parent, xercesc::DOMNode* node, void* families, const LoadedFamily* known,
                std::size_t count);
 
+/// Raises for a wrapper that got a null pointer: a constructor that writes before it loads asks first.
+void requireElement(const OrbBaseElement& wrapper);
+
 /// Raises if elements lie too deep below an element whose children have no wrappers.
 void refuseDeepContent(const OrbBaseElement& wrapper);
 

@@ -15,6 +15,7 @@ struct OrbCoordinates::Children : ChildFamilies<FamilyList<OrbDimension, OrbDime
 OrbCoordinates::OrbCoordinates(DOMElement* element) : OrbBaseElement(element), children_(new Children) { init(); }
 OrbCoordinates::OrbCoordinates(DOMElement* element, const XMLCh* id) :
     OrbBaseElement(element), children_(new Children) {
+  requireElement(*this);
   setId(id);
   init();
 }

@@ -1,13 +1,11 @@
 // A chart document.
 #include "orbdocument.h"
 
-#include "chartstring.h"
 #include "orbutility.h"
 #include "orbvisualization.h"
 #include "raise.h"
 
 #include <xercesc/dom/DOM.hpp>
-#include <xercesc/util/XMLString.hpp>
 
 using xercesc::DOMDocument;
 using xercesc::DOMElement;
@@ -20,8 +18,6 @@ DOMElement* rootOf(const DOMDocument* document) {
   DOMElement* root = document->getDocumentElement();
   if (root == nullptr)
     orbchart::raise("There is no chart in the document: it has no root element.");
-  if (!xercesc::XMLString::equals(root->getTagName(), OrbVisualization::elementName))
-    orbchart::raise("The root element is " + ChartString(root->getTagName()).toUTF8() + " and not visualization.");
   return root;
 }
 

@@ -14,12 +14,14 @@ using xercesc::DOMElement;
 OrbFilter::OrbFilter(DOMElement* element) : OrbBaseElement(element) { init(); }
 OrbFilter::OrbFilter(DOMElement* element, const XMLCh* sourceName, const OrbCategoricalDomain& domain) :
     OrbBaseElement(element) {
+  requireElement(*this);
   setSourceName(sourceName);
   setCategoricalDomain(domain);
   init();
 }
 OrbFilter::OrbFilter(DOMElement* element, const XMLCh* sourceName, const OrbIntervalDomain& domain) :
     OrbBaseElement(element) {
+  requireElement(*this);
   setSourceName(sourceName);
   setIntervalDomain(domain);
   init();
