@@ -5,10 +5,10 @@
 #include "chartstring.h"
 #include "orbuni.h"
 #include "placement.h"
-#include "quvaiocv.h"
 #include "raise.h"
 
 #include <xercesc/dom/DOM.hpp>
+#include <xercesc/util/TransService.hpp>
 #include <xercesc/util/XMLChar.hpp>
 #include <xercesc/util/XMLString.hpp>
 
@@ -50,19 +50,12 @@ void reportUsedId(const XMLCh* id, const DOMElement& existing, const DOMElement&
   orbchart::report(message.toUTF8());
 }
 
-/// Printed bytes, in the encoding of their document, as a string.
+/// Printed bytes, in the encoding of their document, as a string. Xerces knows more encodings than others do, and some
+/// of them by other names.
 ChartString decoded(const std::string& bytes, const XMLCh* encoding) {
-  ChartString result;
-  if (isEmpty(encoding)) {
-    result.assignUTF8(bytes);
-    return result;
-  }
-  std::u16string text;
-  void* converter = QUVAMBConverterNew_A(ChartString(encoding).toUTF8().c_str());
-  QUVAMBGenericToU16(converter, text, bytes);
-  QUVAMBConverterDelete_A(converter);
-  result.assign(text.c_str());
-  return result;
+  const std::string name = isEmpty(encoding) ? "UTF-8" : ChartString(encoding).toUTF8();
+  const xercesc::TranscodeFromStr text(reinterpret_cast<const XMLByte*>(bytes.data()), bytes.size(), name.c_str());
+  return ChartString(text.str());
 }
 
 } // namespace
@@ -185,13 +178,18 @@ void OrbBaseElement::throwIfChildExists(unsigned long count, unsigned long limit
 ChartString OrbBaseElement::ChildNotFoundError(const XMLCh* name) const {
   std::ostringstream xml;
   ChartPrinter printer;
-  printer.Print(element_, xml, true);
+  std::string bytes;
+  if (printer.Print(element_, xml, true)) {
+    bytes = xml.str();
+    // The line feed at the end of a print is one byte in every encoding.
+    bytes.pop_back();
+  }
   ChartString message(u"Element ");
   message.append(element_->getTagName());
   message.append(u" found unknown child ");
   message.append(name);
   message.append(u"(");
-  message.append(decoded(xml.str(), element_->getOwnerDocument()->getXmlEncoding()));
-  message.append(u")");
+  message.append(decoded(bytes, element_->getOwnerDocument()->getXmlEncoding()));
+  message.append(u"\n)");
   return message;
 }
