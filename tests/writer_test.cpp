@@ -268,6 +268,7 @@ TEST(Writer, LeavesOutWhatTheEncodingCannotHold) {
       {"US-ASCII", u"\u00e9\u20ac", u""},
       {"windows-1252", u"\u20ac\u3042\U00010041\uff02\uff1cx", u"\u20acx"},
       {"Shift_JIS", u"\u3042\uff1c\u00e9x\U000D0000", u"\u3042\uff1cx"},
+      {"ISO-2022-JP", u"a\x1b\u3042\x0e\u00e9x", u"a\u3042x"},
       {"GB18030", u"\u00e9\u3042\U0010FFFD\xd800", u"\u00e9\u3042\U0010FFFD"},
   };
   for (const auto& [encoding, text, kept] : cases) {

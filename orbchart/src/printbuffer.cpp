@@ -74,11 +74,11 @@ void logLost(char32_t character, const XMLFormatter& formatter) {
 
 } // namespace
 
-/// For each ASCII unit the places in which it is not simply copied. The terminating zero is special everywhere.
-struct PrintBuffer::SpecialUnits {
+/// For each ASCII unit the places in which it is written as a reference.
+struct PrintBuffer::ReferencedUnits {
   std::uint8_t places[128] = {};
 
-  constexpr explicit SpecialUnits(bool isVersion11) {
+  constexpr explicit ReferencedUnits(bool isVersion11) {
     if (isVersion11) {
       std::fill_n(places, 0x20, inAttribute | inText);
       places[0x7F] = inAttribute | inText;
@@ -89,18 +89,28 @@ struct PrintBuffer::SpecialUnits {
     for (char unit : {'"', '\'', '\n'})
       places[+unit] = inAttribute;
     places[+'\r'] = inText;
-    places[0] = asItStands | inAttribute | inText;
   }
 };
 
-constexpr PrintBuffer::SpecialUnits PrintBuffer::specialUnits[2] = {SpecialUnits(false), SpecialUnits(true)};
+constexpr PrintBuffer::ReferencedUnits PrintBuffer::referencedUnits[2] = {ReferencedUnits(false),
+                                                                          ReferencedUnits(true)};
 
 PrintBuffer::PrintBuffer(XMLFormatter& formatter, const XMLCh* version) :
     formatter_(formatter),
     probe_(transcoderLike(formatter)),
     isVersion11_(XMLString::equals(version, xercesc::XMLUni::fgVersion1_1)),
     holdsAllUnicode_(probe_->canTranscodeTo(0x20000)),
-    isTableDriven_(dynamic_cast<const xercesc::XML256TableTranscoder*>(probe_.get()) != nullptr) {}
+    isTableDriven_(dynamic_cast<const xercesc::XML256TableTranscoder*>(probe_.get()) != nullptr) {
+  constexpr std::uint8_t everywhere = asItStands | inAttribute | inText;
+  std::copy_n(referencedUnits[isVersion11_].places, std::size(special_), special_);
+  // A few encodings lack some of ASCII: the backslash, or what shifts their state.
+  for (XMLCh unit = 1; unit < std::size(special_); ++unit) {
+    if (!canHold({&unit, 1}))
+      special_[unit] = everywhere;
+  }
+  // Every text ends there.
+  special_[0] = everywhere;
+}
 
 void PrintBuffer::line(unsigned int indent) {
   put(u"\n");
@@ -122,9 +132,11 @@ PrintBuffer& PrintBuffer::append(const XMLCh* text, Place place) {
   for (text = appendOrdinary(text, place); *text != 0; text = appendOrdinary(text, place)) {
     const std::u16string_view character(text, isPair(text[0], text[1]) ? 2 : 1);
     text += character.size();
-    if (character[0] < 0x80)
+    if (isReference(character[0], place))
       appendReference(character[0]);
-    else if (!appendBeyondAscii(character, place) && lost == 0)
+    else if (canHold(character))
+      put(character);
+    else if (lost == 0)
       lost = codePoint(character);
   }
   if (lost != 0)
@@ -134,7 +146,7 @@ PrintBuffer& PrintBuffer::append(const XMLCh* text, Place place) {
 
 /// Appends the units that are simply copied, and returns where they end.
 const XMLCh* PrintBuffer::appendOrdinary(const XMLCh* text, Place place) {
-  const std::uint8_t* const special = specialUnits[isVersion11_].places;
+  const std::uint8_t* const special = special_;
   const XMLCh firstToAsk = isVersion11_ || !holdsAllUnicode_ ? 0x80 : 0xD800;
   const auto isOrdinary = [=](XMLCh unit) { return unit < 0x80 ? (special[unit] & place) == 0 : unit < firstToAsk; };
   const XMLCh* const limit = units_ + capacity;
@@ -156,15 +168,11 @@ void PrintBuffer::appendReference(XMLCh unit) {
   put(name.empty() ? u"&#x" + hexadecimal(unit) + u";" : name);
 }
 
-/// False for a character that is left out.
-bool PrintBuffer::appendBeyondAscii(std::u16string_view character, Place place) {
-  if (!canHold(character))
-    return false;
-  if (isVersion11_ && place != asItStands && isControl(character[0]))
-    appendReference(character[0]);
-  else
-    put(character);
-  return true;
+/// Whether a unit is written as a reference where it stands.
+bool PrintBuffer::isReference(XMLCh unit, Place place) const {
+  if (unit < 0x80)
+    return (referencedUnits[isVersion11_].places[unit] & place) != 0;
+  return isVersion11_ && place != asItStands && isControl(unit) && canHold({&unit, 1});
 }
 
 bool PrintBuffer::canHold(std::u16string_view character) const {

@@ -41,22 +41,22 @@ public:
 private:
   /// Where a text stands decides which of its characters are written as references.
   enum Place : std::uint8_t { asItStands = 1, inAttribute = 2, inText = 4 };
-  struct SpecialUnits;
+  struct ReferencedUnits;
 
   static constexpr std::size_t capacity = 8000;
 
   PrintBuffer& append(const XMLCh* text, Place place);
   const XMLCh* appendOrdinary(const XMLCh* text, Place place);
   void appendReference(XMLCh unit);
-  bool appendBeyondAscii(std::u16string_view character, Place place);
   void put(std::u16string_view units);
+  bool isReference(XMLCh unit, Place place) const;
   bool canHold(std::u16string_view character) const;
   void reserve(std::size_t count) {
     if (static_cast<std::size_t>(units_ + capacity - end_) < count)
       flush();
   }
 
-  static const SpecialUnits specialUnits[2];
+  static const ReferencedUnits referencedUnits[2];
 
   xercesc::XMLFormatter& formatter_;
   /// Answers what the encoding can hold. The formatter's own transcoder would keep what it was asked in its state, and
@@ -65,6 +65,8 @@ private:
   const bool isVersion11_;
   const bool holdsAllUnicode_;
   const bool isTableDriven_;
+  /// For each ASCII unit the places in which it is not simply copied.
+  std::uint8_t special_[128];
   XMLCh units_[capacity];
   XMLCh* end_ = units_;
 };
