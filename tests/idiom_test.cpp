@@ -256,11 +256,11 @@ TEST(Placement, IsThatOfAWalkFromTheFirstChild) {
   for (int round = 0; round < 300; ++round) {
     const NewDocument document(u"branch");
     std::vector<xercesc::DOMNode*> nodes;
-    for (unsigned int i = 0; i < random() % 12; ++i)
+    for (unsigned int count = random() % 40; count != 0; --count)
       nodes.push_back(document.root()->appendChild(document.document()->createElement(u"leaf")));
     std::vector<xercesc::DOMNode*> followers = {nullptr, document.document()->createElement(u"stray")};
     for (xercesc::DOMNode* node : nodes) {
-      for (unsigned int times = random() % 3; times != 0; --times)
+      for (unsigned int times = random() % 12; times < 2; ++times)
         followers.push_back(node);
     }
     std::shuffle(followers.begin(), followers.end(), random);

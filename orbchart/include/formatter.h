@@ -15,6 +15,8 @@ public:
   /// never a comma, an exponent where the number is very large or very small ("1e+20").
   /// With `digits` below 16 the number is rounded half up, a negative one upward too, and then cut behind that many
   /// decimals. Nothing is padded, but zeros that the cut brings to the end stay: 1.5 with two digits is "1.50", 2 with
-  /// two digits is "2.00", 0.25 with no digits is "0.", the point included.
+  /// two digits is "2.00", 0.25 with no digits is "0.", the point included. A text with an exponent is not cut and
+  /// keeps the half that was added (1.25e-5 with five digits is "1.75e-05"); a number that 10^digits carries past the
+  /// largest double is "inf".
   static std::string AsString(const double& value, unsigned int digits);
 };

@@ -25,12 +25,14 @@ public:
   virtual ~OrbBaseElement();
 
   /// The element and everything under it as text in the encoding of the document, which is UTF-8 unless the document
-  /// names another: indented, without XML declaration, with a line feed at the end.
+  /// names another: indented, without XML declaration, with a line feed at the end, and with one at the beginning
+  /// unless the element is out of the document.
   virtual std::string AsUTF8() const;
 
   xercesc::DOMElement* getImplementation() const;
 
-  /// The text of an attribute in the DOM's own buffer; the empty string when the attribute is absent.
+  /// The text of an attribute in the DOM's own buffer; the empty string when the attribute is absent. Writing or
+  /// removing the attribute ends the text, whose memory is used again.
   const XMLCh* GetAttribute(const XMLCh* name) const;
 
   /// Writes an attribute, in place of one of the same name, and returns it.
@@ -48,8 +50,12 @@ public:
   /// Writes the `id` attribute and registers it, so that the document finds this element by it.
   ///
   /// Nothing is thrown for an id that is in use already: the second element is accepted. Where the parents of the two
-  /// elements have different names, the log gets "Attempting to add an existing ID to an element (<id>)" and both
-  /// places; else nothing says so.
+  /// elements have different names, or this one has no parent, the log gets "Attempting to add an existing ID to an
+  /// element (<id>)" and the places that there are; else nothing says so.
+  ///
+  /// A document has room for about 720,000 registrations, and one that is taken back gives no room back. The next one
+  /// passes the XMLException of Xerces on, with the attribute written and not registered. Such a document can still be
+  /// printed and ended, but no id can be looked up, given or taken in it any more: Xerces would crash.
   void addID(const XMLCh* id);
   bool doesIdExist(const XMLCh* id) const;
 

@@ -24,7 +24,8 @@ public:
   void setId(const XMLCh* id);
   void removeId();
 
-  /// The dimensions. Removing a single one leaves its id registered, and answers false past the end.
+  /// The dimensions. A remove leaves their ids registered: a new dimension with such an id is not found by it. Removing
+  /// a single one answers false past the end.
   OrbDimension* addDimension();
   std::vector<OrbDimension*> getDimensions() const;
   bool removeDimension(unsigned int index);

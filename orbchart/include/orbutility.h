@@ -4,7 +4,8 @@
 #include "orbchartdom.h"
 #include "orbchartexport.h"
 
-/// The XML platform is counted: each start wants one stop, and each OrbDocument makes a pair of its own.
+/// The XML platform is counted: each start wants one stop, and each OrbDocument makes a pair of its own. Xerces counts
+/// without a lock, so that starts and stops, those of an OrbDocument included, must not meet in two threads.
 class ORBCHART_EXPORT OrbUtility {
 public:
   /// Starts the platform. An XMLException goes to the log and no further.

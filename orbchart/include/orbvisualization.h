@@ -31,8 +31,9 @@ public:
   static constexpr XMLCh _UTF_visualization[] = u"visualization";
   static constexpr const XMLCh* elementName = _UTF_visualization;
 
-  /// Wraps the element and everything under it. A child element of another name, at any depth, raises the text of
-  /// ChildNotFoundError.
+  /// Wraps the element and everything under it. A child element of another name raises the text of ChildNotFoundError;
+  /// so it does further down, except under variables and aesthetics, which pass it over, and under elements that have
+  /// text alone.
   explicit OrbVisualization(xercesc::DOMElement* element);
   /// The same, and then writes the id and the version.
   OrbVisualization(xercesc::DOMElement* element, double version, const XMLCh* id);
@@ -41,7 +42,8 @@ public:
   /// The whole document as text, indented and with XML declaration.
   std::string AsUTF8() const override;
 
-  /// Registers the root and wraps its children. The constructors call it; a further call wraps the children again.
+  /// Registers the root and wraps its children. The constructors call it; a further call wraps the children again,
+  /// beside the wrappers that there are.
   void init();
   /// Wraps one node among the children of the root. Null, and what is not an element, does nothing.
   void initWithChildren(xercesc::DOMNode* node);

@@ -16,7 +16,8 @@ bool readBoolean(const OrbBaseElement& wrapper, const XMLCh* name);
 bool readBooleanUnlessFalse(const OrbBaseElement& wrapper, const XMLCh* name);
 void writeBoolean(OrbBaseElement& wrapper, const XMLCh* name, bool value);
 
-/// Digits alone make a number: a sign, like any other character, makes it 0.
+/// Digits alone make a number: a sign, like any other character, makes it 0. They are read as 32 bits, so that an
+/// integer of 2^31 and more wraps round.
 int readInteger(const OrbBaseElement& wrapper, const XMLCh* name);
 void writeInteger(OrbBaseElement& wrapper, const XMLCh* name, int value);
 unsigned int readUnsigned(const OrbBaseElement& wrapper, const XMLCh* name);

@@ -11,6 +11,7 @@
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/util/XMLString.hpp>
 
+#include <cstring>
 #include <iostream>
 #include <string>
 #include <typeinfo>
@@ -186,7 +187,8 @@ void DOMPrinter::outputString(std::ostream& stream, const XMLCh* text) {
   if (text == nullptr)
     return;
   char* bytes = QUVAMBTranscodeGeneric(text);
-  stream << bytes;
+  if (bytes != nullptr)
+    stream.write(bytes, static_cast<std::streamsize>(std::strlen(bytes)));
   QUVAMBRelease(&bytes);
 }
 

@@ -1,5 +1,5 @@
 // The string operations of the closed string library, in an open stand-in: UTF-16 buffers that callers own, and the
-// way between them and other encodings. A host that owns the closed library links that one instead.
+// way between them and other encodings. A host that owns the closed library behind this header links that one instead.
 #pragma once
 
 #include <string>
