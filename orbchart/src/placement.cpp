@@ -2,10 +2,12 @@
 #include "placement.h"
 
 #include <xercesc/dom/DOMElement.hpp>
+#include <xercesc/dom/DOMException.hpp>
 
 #include <algorithm>
 
 using xercesc::DOMElement;
+using xercesc::DOMException;
 using xercesc::DOMNode;
 
 namespace orbchart {
@@ -61,10 +63,37 @@ DOMNode* firstAmong(const DOMElement& parent, DOMNode* const* followers, std::si
   return first;
 }
 
+/// The one follower that is not null; null when there is none, or another.
+DOMNode* onlyOne(DOMNode* const* followers, std::size_t count) {
+  DOMNode* only = nullptr;
+  for (DOMNode* const* follower = followers; follower != followers + count; ++follower) {
+    if (*follower == nullptr || *follower == only)
+      continue;
+    if (only != nullptr)
+      return nullptr;
+    only = *follower;
+  }
+  return only;
+}
+
+/// False when the follower is no child of the parent: Xerces looks at that itself.
+bool insertedBefore(DOMElement& parent, DOMElement& child, DOMNode* follower) {
+  try {
+    parent.insertBefore(&child, follower);
+    return true;
+  } catch (const DOMException& exception) {
+    if (exception.code != DOMException::NOT_FOUND_ERR)
+      throw;
+    return false;
+  }
+}
+
 } // namespace
 
 void insertBeforeFirst(DOMElement& parent, DOMElement& child, DOMNode* const* followers, std::size_t count) {
-  parent.insertBefore(&child, firstAmong(parent, followers, count));
+  DOMNode* only = onlyOne(followers, count);
+  if (only == nullptr || !insertedBefore(parent, child, only))
+    parent.insertBefore(&child, firstAmong(parent, followers, count));
 }
 
 } // namespace orbchart
