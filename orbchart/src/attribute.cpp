@@ -7,8 +7,6 @@
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/util/XMLString.hpp>
 
-#include <string>
-
 using xercesc::XMLString;
 
 namespace orbchart {

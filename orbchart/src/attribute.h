@@ -1,5 +1,5 @@
-// Typed attributes: how wrappers read and write the attributes of their elements. Reading an absent attribute, or a
-// text that is none of its kind, gives the empty string, false, 0 or 0.0.
+// Typed attributes: how wrappers read and write what is no plain text. Reading an absent attribute, or a text that is
+// none of its kind, gives false, 0 or 0.0. Plain text goes through GetAttribute and SetAttribute.
 #pragma once
 
 #include "orbbaseelement.h"

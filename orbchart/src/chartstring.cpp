@@ -29,11 +29,7 @@ template <class Unit> using Buffer = std::unique_ptr<Unit, Release>;
 
 std::u16string_view view(const XMLCh* text) { return text ? std::u16string_view(text) : std::u16string_view(); }
 
-XMLCh* copy(const XMLCh* text) { return text ? QUVAMBReplicate(text) : nullptr; }
-
-XMLCh* fromGeneric(const char* text) { return text ? QUVAMBTranscodeGeneric(text) : nullptr; }
-
-Buffer<char> utf8(const XMLCh* text) { return Buffer<char>(text ? QUVAMBTranscodeU8(text) : nullptr); }
+Buffer<char> utf8(const XMLCh* text) { return Buffer<char>(QUVAMBTranscodeU8(text)); }
 
 std::string utf8String(const XMLCh* text) {
   const auto bytes = utf8(text);
@@ -46,12 +42,8 @@ void replaceBuffer(XMLCh*& buffer, XMLCh* replacement) {
 }
 
 void appendTo(XMLCh*& buffer, const XMLCh* text) {
-  if (!text || !*text)
-    return;
-  if (buffer)
+  if (text && *text)
     QUVAMBAppend(&buffer, text);
-  else
-    buffer = QUVAMBReplicate(text);
 }
 
 /// As the other, without another copy where the buffer is null.
@@ -82,13 +74,15 @@ ChartString::ChartString(ChartString&& other) noexcept :
 
 ChartString::ChartString(const XMLCh* text) : ChartString(text, text) {}
 
-ChartString::ChartString(const XMLCh* text, const XMLCh* english) : text_(copy(text)), english_(copy(english)) {}
+ChartString::ChartString(const XMLCh* text, const XMLCh* english) :
+    text_(QUVAMBReplicate(text)), english_(QUVAMBReplicate(english)) {}
 
-ChartString::ChartString(const char* text) : text_(fromGeneric(text)), english_(fromGeneric(text)) {}
+ChartString::ChartString(const char* text) :
+    text_(QUVAMBTranscodeGeneric(text)), english_(QUVAMBTranscodeGeneric(text)) {}
 
 ChartString::ChartString(const std::string& text, const std::string& english) :
-    text_(text.empty() ? nullptr : fromGeneric(text.c_str())),
-    english_(english.empty() ? nullptr : fromGeneric(english.c_str())) {}
+    text_(text.empty() ? nullptr : QUVAMBTranscodeGeneric(text.c_str())),
+    english_(english.empty() ? nullptr : QUVAMBTranscodeGeneric(english.c_str())) {}
 
 ChartString::ChartString(unsigned long n) { append(n); }
 
@@ -141,7 +135,9 @@ void ChartString::assignUTF8ForEng(const std::string& english) {
   replaceBuffer(english_, QUVAMBTranscodeU8(english.c_str()));
 }
 
-void ChartString::assignInteger(long n) { replaceBuffer(text_, fromGeneric(formatter::AsString(n).c_str())); }
+void ChartString::assignInteger(long n) {
+  replaceBuffer(text_, QUVAMBTranscodeGeneric(formatter::AsString(n).c_str()));
+}
 
 void ChartString::assignDouble(double value, unsigned int digits) {
   replaceBuffer(text_, nullptr);
@@ -183,8 +179,8 @@ void ChartString::append(const ChartString& other) { append(other.text_, other.e
 void ChartString::append(const char* text) {
   if (!text || !*text)
     return;
-  appendTo(english_, Buffer<XMLCh>(fromGeneric(text)));
-  appendTo(text_, Buffer<XMLCh>(fromGeneric(text)));
+  appendTo(english_, Buffer<XMLCh>(QUVAMBTranscodeGeneric(text)));
+  appendTo(text_, Buffer<XMLCh>(QUVAMBTranscodeGeneric(text)));
 }
 
 void ChartString::append(unsigned long n) { append(formatter::AsString(n).c_str()); }

@@ -4,12 +4,9 @@
 #include "attribute.h"
 #include "family.h"
 #include "keyword.h"
+#include "modifierreference.h"
 #include "orbaggregation.h"
 #include "orbcategoricaldomain.h"
-#include "orbdomainexclude.h"
-#include "orbdomainintersect.h"
-#include "orbdomainreplace.h"
-#include "orbdomainunion.h"
 #include "orbintervaldomain.h"
 #include "orbuni.h"
 #include "reference.h"
@@ -27,6 +24,7 @@ constexpr Keyword<CTVariableType::ENUM_measurementLevel> measurementLevels[] = {
     {CTVariableType::measurementLevel_ratio, CTVariableType::_UTF_measurementLevel_ratio},
 };
 
+// What the language has after them has no class here.
 using AfterAggregations = FamilyList<>;
 
 } // namespace
@@ -78,13 +76,9 @@ void CTVariableType::setDomain(const OrbIntervalDomain& domain) { writeReference
 void CTVariableType::setDomain(const OrbCategoricalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
 void CTVariableType::removeDomain() { removeAttribute(*this, OrbUni::_domain); }
 
-CTModifier* CTVariableType::getDomainModifier() const {
-  return readReferenceTo<CTModifier, OrbDomainExclude, OrbDomainIntersect, OrbDomainReplace, OrbDomainUnion>(
-      *this, _UTF_domainModifier);
-}
+CTModifier* CTVariableType::getDomainModifier() const { return readModifier(*this, _UTF_domainModifier); }
 void CTVariableType::setDomainModifier(const CTModifier& modifier) {
-  writeReferenceAmong<OrbDomainExclude, OrbDomainIntersect, OrbDomainReplace, OrbDomainUnion>(
-      *this, _UTF_domainModifier, modifier);
+  writeModifier(*this, _UTF_domainModifier, modifier);
 }
 bool CTVariableType::isDomainModifierPresent() const { return isPresent(*this, _UTF_domainModifier); }
 void CTVariableType::removeDomainModifier() { removeAttribute(*this, _UTF_domainModifier); }

@@ -34,7 +34,7 @@ struct Load {
 
 thread_local Load* running = nullptr;
 
-DOMElement& elementOf(const OrbBaseElement& wrapper) {
+DOMElement& requiredElement(const OrbBaseElement& wrapper) {
   if (wrapper.getImplementation() == nullptr)
     raise("A wrapper needs an element, and got a null pointer.");
   return *wrapper.getImplementation();
@@ -80,7 +80,7 @@ DOMElement* nextElement(DOMNode* node, const DOMElement& top, unsigned int& leve
   for (DOMElement* element = nextElement(&top, top, level); element != nullptr;
        element = nextElement(element, top, level)) {
     if (level > maximumNesting)
-      raiseTooDeep(running == nullptr ? top : elementOf(running->outermost));
+      raiseTooDeep(running == nullptr ? top : requiredElement(running->outermost));
   }
 }
 
@@ -128,7 +128,7 @@ void wrapChildren(const OrbBaseElement& parent, DOMNode* node, void* families, c
                   std::size_t count, Unknown unknown) {
   const Level level;
   if (running->level > maximumNesting)
-    raiseTooDeep(elementOf(running->outermost));
+    raiseTooDeep(requiredElement(running->outermost));
   // A document holds each name once, and most children have the name of the one before.
   const XMLCh* name = nullptr;
   const LoadedFamily* family = nullptr;
@@ -178,7 +178,7 @@ template <class Step> [[gnu::noinline]] void runLoad(const OrbBaseElement& outer
 } // namespace
 
 void bindUnder(const XMLCh* key, const OrbBaseElement& wrapper, void* typedWrapper) {
-  DOMElement& element = elementOf(wrapper);
+  DOMElement& element = requiredElement(wrapper);
   if (running != nullptr)
     running->bindings.push_back({&element, key, typedWrapper});
   else
@@ -193,7 +193,7 @@ void unbindTree(DOMElement& top) {
 
 void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFamily* known, std::size_t count,
                   Unknown unknown) {
-  DOMNode* first = elementOf(parent).getFirstChild();
+  DOMNode* first = requiredElement(parent).getFirstChild();
   if (first == nullptr)
     return;
   if (running != nullptr)
@@ -213,10 +213,10 @@ void loadChild(const OrbBaseElement& parent, DOMNode* node, void* families, cons
   });
 }
 
-void requireElement(const OrbBaseElement& wrapper) { static_cast<void>(elementOf(wrapper)); }
+void requireElement(const OrbBaseElement& wrapper) { static_cast<void>(requiredElement(wrapper)); }
 
 void refuseDeepContent(const OrbBaseElement& wrapper) {
-  DOMElement& element = elementOf(wrapper);
+  DOMElement& element = requiredElement(wrapper);
   if (hasChildElement(element))
     refuseDeepContent(element, running == nullptr ? 0 : running->level);
 }

@@ -3,9 +3,7 @@
 
 #include "orbbaseelement.h"
 
-#include <array>
 #include <cstddef>
-#include <cstdint>
 
 namespace orbchart {
 

@@ -13,6 +13,7 @@ using xercesc::DOMElement;
 
 namespace {
 
+// What the language has after them has no class here.
 using AfterCategories = FamilyList<>;
 using AfterReferences = Joined<FamilyList<OrbCategories>, AfterCategories>;
 

@@ -3,11 +3,8 @@
 
 #include "attribute.h"
 #include "family.h"
+#include "modifierreference.h"
 #include "orbcategoricaldomain.h"
-#include "orbdomainexclude.h"
-#include "orbdomainintersect.h"
-#include "orbdomainreplace.h"
-#include "orbdomainunion.h"
 #include "orbintervaldomain.h"
 #include "orbuni.h"
 #include "reference.h"
@@ -17,6 +14,7 @@ using namespace orbchart;
 
 namespace {
 
+// What the language has after them has no class here.
 using AfterScales = FamilyList<>;
 
 } // namespace
@@ -81,13 +79,9 @@ void OrbDimension::setFacetsShareScale(bool facetsShareScale) {
 bool OrbDimension::isFacetsShareScalePresent() const { return isPresent(*this, _UTF_facetsShareScale); }
 void OrbDimension::removeFacetsShareScale() { removeAttribute(*this, _UTF_facetsShareScale); }
 
-CTModifier* OrbDimension::getDomainModifier() const {
-  return readReferenceTo<CTModifier, OrbDomainExclude, OrbDomainIntersect, OrbDomainReplace, OrbDomainUnion>(
-      *this, _UTF_domainModifier);
-}
+CTModifier* OrbDimension::getDomainModifier() const { return readModifier(*this, _UTF_domainModifier); }
 void OrbDimension::setDomainModifier(const CTModifier& modifier) {
-  writeReferenceAmong<OrbDomainExclude, OrbDomainIntersect, OrbDomainReplace, OrbDomainUnion>(
-      *this, _UTF_domainModifier, modifier);
+  writeModifier(*this, _UTF_domainModifier, modifier);
 }
 bool OrbDimension::isDomainModifierPresent() const { return isPresent(*this, _UTF_domainModifier); }
 void OrbDimension::removeDomainModifier() { removeAttribute(*this, _UTF_domainModifier); }

@@ -48,8 +48,9 @@ std::string timeText() {
   char text[64] = "";
   ctime_r(&now.tv_sec, text);
   const std::string time = text;
-  const std::string thousandAndMilliseconds = std::to_string(1000 + now.tv_nsec / 1000000);
-  return time.substr(0, 19) + "." + thousandAndMilliseconds.substr(1) + time.substr(19, 5);
+  char milliseconds[16] = "";
+  std::snprintf(milliseconds, sizeof milliseconds, ".%03d", static_cast<int>(now.tv_nsec / 1'000'000));
+  return time.substr(0, 19) + milliseconds + time.substr(19, 5);
 }
 
 } // namespace

@@ -23,8 +23,8 @@ using xercesc::DOMElement;
 
 namespace {
 
-// The families by band, in document order. A new family takes its place in its band, and with it in the record, in
-// the loader and among the followers of the bands before it.
+// The families by band, in document order; a band of the language without a class here is empty and keeps its place. A
+// new family goes into its band, and with it into the record, the loader and the followers of the bands before it.
 using Extensions = FamilyList<>;
 using Locations = FamilyList<>;
 using CoordinateSystems = FamilyList<OrbCoordinates>;

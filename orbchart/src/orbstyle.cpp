@@ -168,6 +168,7 @@ constexpr Keyword<OrbStyle::ENUM_textAlignment> textAlignments[] = {
     {OrbStyle::textAlignment_mixed, OrbStyle::ENUM_textAlignment_mixed},
 };
 
+// What the language has after them has no class here.
 using AfterStyles = FamilyList<>;
 
 /// Writes a number from 0.0 to 1.0, and no other.

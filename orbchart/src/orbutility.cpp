@@ -16,8 +16,8 @@ using xercesc::XMLPlatformUtils;
 
 namespace {
 
-/// The URI of the language: the declaration of the name pool without its `xmlns:`.
-constexpr std::size_t declarationPrefix = 6;
+/// The name pool has the URI of the language behind this, as one text.
+constexpr std::size_t declarationPrefix = std::size(u"xmlns:") - 1;
 
 void fill(DOMDocument& document) {
   document.setStrictErrorChecking(true);
@@ -53,6 +53,7 @@ DOMDocument* OrbUtility::CreateDocument() {
   try {
     xercesc::DOMImplementation* implementation =
         xercesc::DOMImplementationRegistry::getDOMImplementation(OrbUni::_implFeatures);
+    // The whole text, prefix included, is the namespace of the root's node.
     document = implementation->createDocument(OrbUni::_namespaceURI, OrbUni::_visualization, nullptr);
     fill(*document);
   } catch (const XMLException& exception) {

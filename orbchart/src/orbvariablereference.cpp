@@ -1,7 +1,6 @@
 // A reference to a variable.
 #include "orbvariablereference.h"
 
-#include "attribute.h"
 #include "family.h"
 #include "orbelementvariablereference.h"
 #include "orbuni.h"

@@ -24,7 +24,7 @@ constexpr bool isHighSurrogate(XMLCh unit) { return (unit & 0xFC00) == 0xD800; }
 constexpr bool isLowSurrogate(XMLCh unit) { return (unit & 0xFC00) == 0xDC00; }
 constexpr bool isPair(XMLCh first, XMLCh second) { return isHighSurrogate(first) && isLowSurrogate(second); }
 
-/// Beyond ASCII: all of them but the line break among them.
+/// The control characters beyond ASCII, save U+0085, which is a line break.
 constexpr bool isControl(XMLCh unit) { return unit >= 0x80 && unit < 0xA0 && unit != 0x85; }
 
 constexpr bool isFullwidth(XMLCh unit) { return unit >= 0xFF01 && unit <= 0xFF5E; }
