@@ -103,6 +103,7 @@ public:
   void setName(const XMLCh* name);
   void removeName();
 
+  /// False when absent.
   bool getDot() const;
   void setDot(bool dot);
   void removeDot();
@@ -128,6 +129,7 @@ public:
   void setPositionModifier(ENUM_positionModifier positionModifier);
   void removePositionModifier();
 
+  /// The place of the element on each axis; 0.0 when absent.
   double getXLocation() const;
   void setXLocation(double xLocation);
   void removeXLocation();

@@ -15,6 +15,15 @@ class OrbVisualization;
 ///
 /// A wrapper holds no data but the pointer to its element: what is written through it stands in the DOM at once, and
 /// what is read comes from there. It owns nothing of the DOM, and ending a wrapper does not touch the DOM.
+///
+/// This holds for the operations of all wrappers where their own comments say nothing else:
+/// - An absent attribute reads as the empty text, false, 0, 0.0 or the enumerator that ends in `_unset`, and so does a
+///   text that is none of the attribute's kind. A reference to nothing, or to an element of another class, is null.
+/// - A null or empty text and a number that is no keyword's write nothing: the attribute stays as it is. An id alone is
+///   taken away by them. A reference to an object without an id is not written.
+/// - Children are handed out in document order as loaded, then in the order of their addition; the one of a family
+///   that has at most one is null when there is none.
+/// - A remove of children returns how many there were and ends their wrappers and all wrappers below them.
 class ORBCHART_EXPORT OrbBaseElement {
 public:
   explicit OrbBaseElement(xercesc::DOMElement* element);

@@ -1,10 +1,10 @@
-// A list of categories under a domain modifier, element `categories2`.
+// A list of categories for an operation of a domain modifier, element `categories2`.
 #pragma once
 
 #include "chartstring.h"
 #include "orbbaseelement.h"
 
-/// A list of categories under a domain modifier; the library does not read its text.
+/// A list of categories for an operation of a domain modifier; the library does not read its text.
 ///
 /// The wrapper is registered under the key `categories`, which is not the name of its element.
 class ORBCHART_EXPORT OrbCategories2 : public OrbBaseElement {

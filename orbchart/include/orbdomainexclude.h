@@ -1,9 +1,9 @@
-// A domain modifier that takes its values away, element `domainExclude`.
+// The operation of a domain modifier that takes its values away, element `domainExclude`.
 #pragma once
 
 #include "ctmodifier.h"
 
-/// A domain modifier that takes its values away.
+/// The operation of a domain modifier that takes its values away.
 class ORBCHART_EXPORT OrbDomainExclude : public CTModifier {
 public:
   static constexpr XMLCh _UTF_domainExclude[] = u"domainExclude";

@@ -1,9 +1,9 @@
-// A domain modifier that keeps what is among its values, element `domainIntersect`.
+// The operation of a domain modifier that keeps what is among its values, element `domainIntersect`.
 #pragma once
 
 #include "ctmodifier.h"
 
-/// A domain modifier that keeps what is among its values.
+/// The operation of a domain modifier that keeps what is among its values.
 class ORBCHART_EXPORT OrbDomainIntersect : public CTModifier {
 public:
   static constexpr XMLCh _UTF_domainIntersect[] = u"domainIntersect";

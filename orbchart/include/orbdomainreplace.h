@@ -1,9 +1,9 @@
-// A domain modifier that puts its values in place, element `domainReplace`.
+// The operation of a domain modifier that puts its values in place, element `domainReplace`.
 #pragma once
 
 #include "ctmodifier.h"
 
-/// A domain modifier that puts its values in place.
+/// The operation of a domain modifier that puts its values in place.
 class ORBCHART_EXPORT OrbDomainReplace : public CTModifier {
 public:
   static constexpr XMLCh _UTF_domainReplace[] = u"domainReplace";

@@ -1,9 +1,9 @@
-// A domain modifier that adds its values, element `domainUnion`.
+// The operation of a domain modifier that adds its values, element `domainUnion`.
 #pragma once
 
 #include "ctmodifier.h"
 
-/// A domain modifier that adds its values.
+/// The operation of a domain modifier that adds its values.
 class ORBCHART_EXPORT OrbDomainUnion : public CTModifier {
 public:
   static constexpr XMLCh _UTF_domainUnion[] = u"domainUnion";

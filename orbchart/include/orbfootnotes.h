@@ -17,6 +17,7 @@ public:
   explicit OrbFootnotes(xercesc::DOMElement* element);
   ~OrbFootnotes() override;
 
+  /// 0 when absent.
   unsigned int getIndex() const;
   void setIndex(unsigned int index);
   bool isIndexPresent() const;

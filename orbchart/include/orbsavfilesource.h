@@ -57,7 +57,7 @@ public:
   bool isUrlPresent() const;
   void removeUrl();
 
-  /// Spelled with a capital in the document; false when absent.
+  /// The attribute `OpenAccessDriver`, with its capital; false when absent.
   bool getOpenAccessDriver() const;
   void setOpenAccessDriver(bool openAccessDriver);
   bool isOpenAccessDriverPresent() const;

@@ -135,6 +135,7 @@ public:
   bool isAugmentPresent() const;
   void removeAugment();
 
+  /// 0.0 when absent.
   double getMultiple() const;
   void setMultiple(double multiple);
   bool isMultiplePresent() const;

@@ -14,6 +14,7 @@ public:
   static void Terminate();
 
   /// A new document with the root `visualization` and the three attributes that declare the language. The caller
-  /// releases it. What goes wrong is logged, and the result is what stands by then, null at worst.
+  /// releases it. Nothing is thrown: an XMLException goes to the log, any other exception is dropped, and the result is
+  /// what stands by then, null at worst.
   static xercesc::DOMDocument* CreateDocument();
 };

@@ -63,6 +63,7 @@ public:
   bool isSummaryPresent() const;
   void removeSummary();
 
+  /// The two bounds; 0.0 when absent, which isMinPresent() and isMaxPresent() tell from a bound of 0.
   double getMin() const;
   void setMin(double min);
   bool isMinPresent() const;
