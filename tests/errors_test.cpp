@@ -102,8 +102,26 @@ TEST_F(ErrorLog, DomExceptionsAreLoggedAndThrown) {
 
 TEST_F(ErrorLog, EachDomCodeHasItsText) {
   const std::pair<short, const char*> texts[] = {
-      {-1, "unknown DOM error"},    {0, "unknown DOM error"},  {1, "index size error"},  {12, "syntax error"},
-      {15, "invalid access error"}, {16, "unknown DOM error"}, {82, "unknown DOM error"}};
+      {-1, "unknown DOM error"},
+      {0, "unknown DOM error"},
+      {DOMException::INDEX_SIZE_ERR, "index size error"},
+      {DOMException::DOMSTRING_SIZE_ERR, "DOMString size error"},
+      {DOMException::HIERARCHY_REQUEST_ERR, "hierarchy request error"},
+      {DOMException::WRONG_DOCUMENT_ERR, "wrong document error"},
+      {DOMException::INVALID_CHARACTER_ERR, "invalid character error"},
+      {DOMException::NO_DATA_ALLOWED_ERR, "no data allowed error"},
+      {DOMException::NO_MODIFICATION_ALLOWED_ERR, "no modification allowed error"},
+      {DOMException::NOT_FOUND_ERR, "not found error"},
+      {DOMException::NOT_SUPPORTED_ERR, "not supported error"},
+      {DOMException::INUSE_ATTRIBUTE_ERR, "inuse attribute error"},
+      {DOMException::INVALID_STATE_ERR, "invalid state error"},
+      {DOMException::SYNTAX_ERR, "syntax error"},
+      {DOMException::INVALID_MODIFICATION_ERR, "invalid modication error"},
+      {DOMException::NAMESPACE_ERR, "namespace error"},
+      {DOMException::INVALID_ACCESS_ERR, "invalid access error"},
+      {16, "unknown DOM error"},
+      {82, "unknown DOM error"},
+  };
   for (const auto& [code, text] : texts) {
     DOMException exception(DOMException::INDEX_SIZE_ERR);
     exception.code = code;

@@ -199,7 +199,7 @@ TEST(NullArguments, DoNothing) {
   EXPECT_EQ(OrbBaseElement(nullptr).AsUTF8(), "");
 }
 
-TEST(NullElement, IsRefusedByEveryWrapper) {
+TEST(NullElement, IsRefusedInEachWayOfLoading) {
   const std::string message = "A wrapper needs an element, and got a null pointer.";
   EXPECT_EQ(messageOf([] { const OrbVisualization wrapper(nullptr); }), message);
   EXPECT_EQ(messageOf([] { const OrbSourceVariable wrapper(nullptr, u"id"); }), message);

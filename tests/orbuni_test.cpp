@@ -73,13 +73,10 @@ TEST(OrbUni, ConstantsStandInAlphabeticalOrder) {
   EXPECT_EQ(misplaced, all.end()) << misplaced->name;
 }
 
-TEST(OrbUni, ValuesEndInZero) {
+TEST(OrbUni, HasTextsThatAreNoNames) {
   using xercesc::XMLString;
-  EXPECT_TRUE(XMLString::equals(OrbUni::_stroke_linecap, u"stroke-linecap"));
-  EXPECT_TRUE(XMLString::equals(OrbUni::_log_safe, u"log.safe"));
   EXPECT_TRUE(XMLString::equals(OrbUni::_implFeatures, u"LS"));
-  EXPECT_TRUE(XMLString::equals(OrbUni::_QUVA, u"QUVA"));
-  EXPECT_TRUE(XMLString::startsWith(OrbUni::_namespaceURI, u"xmlns:http"));
+  EXPECT_TRUE(XMLString::startsWith(OrbUni::_namespaceURI, u"xmlns:"));
   EXPECT_TRUE(XMLString::endsWith(OrbUni::_namespaceURI, u"/visualization"));
 }
 
