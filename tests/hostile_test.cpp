@@ -5,6 +5,7 @@
 #include "log.h"
 #include "orbcategoricaldomain.h"
 #include "orbcoordinates.h"
+#include "orbdimension.h"
 #include "orbdocument.h"
 #include "orbembeddedsource.h"
 #include "orbfilter.h"
@@ -211,6 +212,27 @@ TEST(NullElement, IsRefusedInEachWayOfLoading) {
   EXPECT_EQ(messageOf([&] { const OrbFilter wrapper(nullptr, u"name", categories); }), message);
   const OrbIntervalDomain& interval = *document.GetVisualization()->addIntervalDomain(u"i");
   EXPECT_EQ(messageOf([&] { const OrbFilter wrapper(nullptr, u"name", interval); }), message);
+}
+
+TEST(ElementsThatAHostMoves, AreNotFoundByReferencesOnceTheirWrappersHaveGone) {
+  OrbDocument document;
+  OrbVisualization& root = *document.GetVisualization();
+  OrbGraph& reading = *root.addGraph(u"reading");
+  OrbGraph& graph = *root.addGraph(u"graph");
+  OrbCoordinates& coordinates = *graph.addCoordinates(u"c");
+  OrbDimension& taken = *coordinates.addDimension();
+  taken.setId(u"taken");
+  OrbDimension& moved = *coordinates.addDimension();
+  moved.setId(u"moved");
+  reading.setAlignCellHorizontallyWith(taken);
+  reading.setAlignCellVerticallyWith(moved);
+  coordinates.removeChildElement(&taken);
+  root.getImplementation()->appendChild(moved.getImplementation());
+  EXPECT_EQ(reading.getAlignCellHorizontallyWith(), &taken);
+  EXPECT_EQ(reading.getAlignCellVerticallyWith(), &moved);
+  graph.removeCoordinatess();
+  EXPECT_EQ(reading.getAlignCellHorizontallyWith(), nullptr);
+  EXPECT_EQ(reading.getAlignCellVerticallyWith(), nullptr);
 }
 
 TEST(OwnTexts, MayBeArguments) {

@@ -77,7 +77,7 @@ public:
   OrbVisualization* getVisualization() const;
 
   /// Puts a new child of this element in its place: directly before the first child element that is the element of one
-  /// of the followers, else last. A null child does nothing.
+  /// of the followers, else last. Null and this element itself do nothing.
   void InsertBefore(xercesc::DOMElement* child, std::vector<OrbBaseElement*>& followers);
 
   /// Takes the child's element out of this element; false for null and for a child of another element. The wrapper

@@ -16,7 +16,8 @@ public:
   OrbDocument();
 
   /// Wraps a DOM that the host's parser made. The host keeps the DOM and its parser, and keeps both until this object
-  /// has gone.
+  /// has gone. The pointers of this object's wrappers stay on the elements: when the DOM is wrapped again, references
+  /// must lead to no element that the new load does not see.
   ///
   /// The whole tree is wrapped at once. An unknown element raises the text of OrbBaseElement::ChildNotFoundError,
   /// except under variables and aesthetics, which pass it over, and under elements that have text alone; elements

@@ -15,6 +15,12 @@ namespace {
 
 thread_local std::vector<OrbBaseElement*>* waiting = nullptr;
 
+void end(const OrbBaseElement* wrapper, Registrations registrations) {
+  if (registrations == Registrations::go)
+    unbind(*wrapper);
+  delete wrapper;
+}
+
 } // namespace
 
 void OnlyOne::check(const OrbBaseElement& wrapper, std::size_t count) const {
@@ -27,18 +33,18 @@ void AtMost::check(const OrbBaseElement& /*wrapper*/, std::size_t count) const {
     raise(message, file, line);
 }
 
-void discard(OrbBaseElement* wrapper) {
+void discard(OrbBaseElement* wrapper, Registrations registrations) {
   if (waiting != nullptr) {
     waiting->push_back(wrapper);
     return;
   }
   std::vector<OrbBaseElement*> owned;
   waiting = &owned;
-  delete wrapper;
+  end(wrapper, registrations);
   while (!owned.empty()) {
     const OrbBaseElement* next = owned.back();
     owned.pop_back();
-    delete next;
+    end(next, registrations);
   }
   waiting = nullptr;
 }
@@ -49,7 +55,6 @@ void takeOut(const OrbBaseElement& parent, const OrbBaseElement& child, Ids ids)
     element->removeAttribute(OrbUni::_id);
   if (element->getParentNode() == parent.getImplementation())
     parent.getImplementation()->removeChild(element);
-  unbindTree(*element);
 }
 
 NewChild::NewChild(const OrbBaseElement& parent, const XMLCh* name, std::span<DOMNode* const> followers) :
@@ -61,7 +66,8 @@ NewChild::~NewChild() {
   if (parent_ == nullptr)
     return;
   parent_->removeChild(element_);
-  unbindTree(*element_);
+  // The wrapper may have been registered before it failed.
+  element_->setUserData(element_->getTagName(), nullptr, nullptr);
 }
 
 } // namespace orbchart

@@ -66,10 +66,15 @@ concept ChildLimit = requires(const Type limit, const OrbBaseElement& wrapper) {
   limit.check(wrapper, std::size_t{});
 };
 
-/// Ends a wrapper. What it owns is ended after it and not inside it, so that deep documents need no deep stack.
-void discard(OrbBaseElement* wrapper);
+/// What becomes of the registrations of wrappers that end. A removal takes them away, so that no reference leads to a
+/// wrapper that has gone. A destructor leaves them: the DOM may have gone before it.
+enum class Registrations { stay, go };
 
-/// Takes the element of a child out of its parent, and its registrations and those below it away.
+/// Ends a wrapper and all that it owns. What it owns is ended after it and not inside it, so that deep documents need
+/// no deep stack.
+void discard(OrbBaseElement* wrapper, Registrations registrations);
+
+/// Takes the element of a child out of its parent.
 void takeOut(const OrbBaseElement& parent, const OrbBaseElement& child, Ids ids);
 
 /// A new child element in its place. Unless it is kept, it leaves the document again: an add that fails half way
@@ -98,7 +103,7 @@ public:
   Family() = default;
   Family(const Family&) = delete;
   Family& operator=(const Family&) = delete;
-  ~Family() { clear(); }
+  ~Family() { clear(Registrations::stay); }
 
   std::span<Child* const> wrappers() const {
     if (isVector())
@@ -127,18 +132,18 @@ public:
     static_cast<void>(kept.release());
   }
 
-  void erase(std::size_t index) {
+  void remove(std::size_t index) {
     OrbBaseElement* wrapper = wrappers()[index];
     if (isVector())
       vector()->erase(vector()->begin() + static_cast<std::ptrdiff_t>(index));
     else
       only_ = nullptr;
-    discard(wrapper);
+    discard(wrapper, Registrations::go);
   }
 
-  void clear() {
+  void clear(Registrations registrations) {
     for (Child* wrapper : wrappers())
-      discard(wrapper);
+      discard(wrapper, registrations);
     if (isVector())
       delete vector();
     only_ = nullptr;
@@ -219,7 +224,7 @@ public:
     const auto count = static_cast<unsigned int>(wrappers.size());
     for (const Child* wrapper : wrappers)
       takeOut(parent, *wrapper, ids);
-    family<Child>().clear();
+    family<Child>().clear(Registrations::go);
     return count;
   }
   /// Removes one child; false for an index past the end.
@@ -227,7 +232,7 @@ public:
     if (index >= count<Child>())
       return false;
     takeOut(parent, *at<Child>(index), ids);
-    family<Child>().erase(index);
+    family<Child>().remove(index);
     return true;
   }
   /// Removes the child whose wrapper stands over an element; false when no wrapper of the family does.
@@ -241,11 +246,7 @@ public:
     return false;
   }
   /// Ends the wrappers of a family and leaves their elements in the document.
-  template <class Child> void forget() {
-    for (const Child* wrapper : family<Child>().wrappers())
-      unbindTree(*wrapper->getImplementation());
-    family<Child>().clear();
-  }
+  template <class Child> void forget() { family<Child>().clear(Registrations::go); }
 
 private:
   template <class Child> Family<Child>& family() { return *this; }

@@ -84,13 +84,6 @@ DOMElement* nextElement(DOMNode* node, const DOMElement& top, unsigned int& leve
   }
 }
 
-/// Wrappers are registered under the names of their elements, but for the one of categories2.
-void unbind(DOMElement& element) {
-  const XMLCh* name = element.getTagName();
-  element.setUserData(XMLString::equals(name, OrbCategories2::elementName) ? OrbUni::_categories : name, nullptr,
-                      nullptr);
-}
-
 /// Most leaves hold a text at most. Asking siblings alone is cheap, where asking for a parent is not.
 bool hasChildElement(const DOMElement& element) {
   const DOMNode* node = element.getFirstChild();
@@ -185,10 +178,13 @@ void bindUnder(const XMLCh* key, const OrbBaseElement& wrapper, void* typedWrapp
     element.setUserData(key, typedWrapper, nullptr);
 }
 
-void unbindTree(DOMElement& top) {
-  unsigned int level = 0;
-  for (DOMElement* element = &top; element != nullptr; element = nextElement(element, top, level))
-    unbind(*element);
+void unbind(const OrbBaseElement& wrapper) {
+  DOMElement& element = requiredElement(wrapper);
+  const XMLCh* name = element.getTagName();
+  // All wrappers are registered under the names of their elements, but for this one.
+  const XMLCh* key = XMLString::equals(name, OrbCategories2::elementName) ? OrbUni::_categories : name;
+  if (element.getUserData(key) == &wrapper)
+    element.setUserData(key, nullptr, nullptr);
 }
 
 void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFamily* known, std::size_t count,

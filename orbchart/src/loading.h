@@ -23,8 +23,8 @@ template <class Wrapper> void bind(Wrapper& wrapper) { bindUnder(Wrapper::elemen
 template <class Wrapper> void bindLeaf(Wrapper& wrapper);
 template <class Wrapper> void bindLeafUnder(const XMLCh* key, Wrapper& wrapper);
 
-/// Takes the registrations of an element and of everything under it away.
-void unbindTree(xercesc::DOMElement& top);
+/// Takes the registration of a wrapper off its element, wherever that is by now; another wrapper's stays.
+void unbind(const OrbBaseElement& wrapper);
 
 /// What a load does with a child element that is of none of its families.
 enum class Unknown { raises, passes };

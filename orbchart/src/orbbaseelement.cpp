@@ -143,7 +143,7 @@ OrbVisualization* OrbBaseElement::getVisualization() const {
 }
 
 void OrbBaseElement::InsertBefore(DOMElement* child, std::vector<OrbBaseElement*>& followers) {
-  if (child == nullptr)
+  if (child == nullptr || child == element_)
     return;
   std::vector<DOMNode*> elements;
   elements.reserve(followers.size());
