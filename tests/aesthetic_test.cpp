@@ -1,5 +1,6 @@
 // The aesthetics: their numberings, loaders, limits and references, and what attaches an element to a target.
 #include "dom.h"
+#include "keywords.h"
 #include "orbattach.h"
 #include "orbcategoricaldomain.h"
 #include "orbcategoricaldomainmodifier.h"
@@ -31,9 +32,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <vector>
+#include <string>
 
 using test::childrenOf;
+using test::expectKeywords;
 using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
@@ -52,44 +54,25 @@ DOMElement* addElement(const NewDocument& document, const XMLCh* name, const XML
 
 std::string attributeOf(const OrbBaseElement& wrapper, const XMLCh* name) { return utf8(wrapper.GetAttribute(name)); }
 
-/// Keywords numbered from a first number on, written and read; no other number is written, and no other text is read.
-template <class Wrapper, class Enumeration>
-void expectNumbered(const XMLCh* attribute, void (Wrapper::*set)(Enumeration), Enumeration (Wrapper::*get)() const,
-                    int first, const std::vector<std::string>& keywords) {
-  const NewDocument document(Wrapper::elementName);
-  SCOPED_TRACE(utf8(Wrapper::elementName) + " " + utf8(attribute));
-  Wrapper wrapper(document.root());
-  EXPECT_EQ((wrapper.*get)(), 0);
-  int number = first;
-  for (const std::string& keyword : keywords) {
-    (wrapper.*set)(static_cast<Enumeration>(number));
-    EXPECT_EQ(attributeOf(wrapper, attribute), keyword);
-    EXPECT_EQ((wrapper.*get)(), number);
-    ++number;
-  }
-  for (const int outside : {first - 1, number})
-    (wrapper.*set)(static_cast<Enumeration>(outside));
-  EXPECT_EQ(attributeOf(wrapper, attribute), keywords.back());
-  wrapper.SetAttribute(attribute, u"Both");
-  EXPECT_EQ((wrapper.*get)(), 0);
-}
-
 TEST(Aesthetic, KeywordsAreNumberedClassByClass) {
-  const std::vector<std::string> parts = {"both", "main", "secondary", "stroke", "fill"};
-  expectNumbered(u"affect", &OrbColor::setAffect, &OrbColor::getAffect, 1, parts);
-  expectNumbered(u"affect", &OrbColorComponent::setAffect, &OrbColorComponent::getAffect, 0, parts);
-  expectNumbered(u"affect", &OrbTransparency::setAffect, &OrbTransparency::getAffect, 0, parts);
-  expectNumbered(u"scale", &OrbColor::setScaleAttribute, &OrbColor::getScaleAttribute, 1,
-                 {"bipolarBlack", "bipolarWhite", "bipolarGray", "bipolarLightGray", "bipolarDarkGray", "rainbow",
-                  "circular", "temperature", "interpolated"});
-  expectNumbered(u"type", &OrbColorComponent::setType, &OrbColorComponent::getType, 1,
-                 {"hue", "saturation", "brightness"});
-  expectNumbered(u"role", &OrbLabelLocation::setRole, &OrbLabelLocation::getRole, 0, {"x", "y"});
-  expectNumbered(u"type", &OrbSize::setType, &OrbSize::getType, 1, {"all", "width", "height", "depth", "aspect"});
-  expectNumbered(u"method", &OrbAttach::setMethod, &OrbAttach::getMethod, 1,
-                 {"center", "outside", "vertical", "horizontal", "orthogonal"});
-  expectNumbered(u"attachLocation", &OrbAttach::setAttachLocation, &OrbAttach::getAttachLocation, 1,
-                 {"label", "shape"});
+  const std::string parts = "both main secondary stroke fill";
+  expectKeywords<OrbColor>(u"affect", &OrbColor::getAffect, &OrbColor::setAffect, parts);
+  expectKeywords<OrbColorComponent>(u"affect", &OrbColorComponent::getAffect, &OrbColorComponent::setAffect, parts,
+                                    {.first = 0});
+  expectKeywords<OrbTransparency>(u"affect", &OrbTransparency::getAffect, &OrbTransparency::setAffect, parts,
+                                  {.first = 0});
+  expectKeywords<OrbColor>(u"scale", &OrbColor::getScaleAttribute, &OrbColor::setScaleAttribute,
+                           "bipolarBlack bipolarWhite bipolarGray bipolarLightGray bipolarDarkGray rainbow circular "
+                           "temperature interpolated");
+  expectKeywords<OrbColorComponent>(u"type", &OrbColorComponent::getType, &OrbColorComponent::setType,
+                                    "hue saturation brightness");
+  expectKeywords<OrbLabelLocation>(u"role", &OrbLabelLocation::getRole, &OrbLabelLocation::setRole, "x y",
+                                   {.first = 0});
+  expectKeywords<OrbSize>(u"type", &OrbSize::getType, &OrbSize::setType, "all width height depth aspect");
+  expectKeywords<OrbAttach>(u"method", &OrbAttach::getMethod, &OrbAttach::setMethod,
+                            "center outside vertical horizontal orthogonal");
+  expectKeywords<OrbAttach>(u"attachLocation", &OrbAttach::getAttachLocation, &OrbAttach::setAttachLocation,
+                            "label shape");
 }
 
 template <class Wrapper> std::string around(const std::string& children) {

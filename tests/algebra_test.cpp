@@ -3,6 +3,7 @@
 #include "ctelementtype.h"
 #include "dom.h"
 #include "domprinter.h"
+#include "keywords.h"
 #include "orbaggregatestatistic.h"
 #include "orbattach.h"
 #include "orbbinstatistic.h"
@@ -210,19 +211,8 @@ TEST(Algebra, HoldsTenThousandNestedOperators) {
 }
 
 TEST(Layer, NumbersItsMethods) {
-  const NewDocument document(u"layer");
-  OrbLayer layer(document.root());
-  EXPECT_EQ(layer.getMethod(), OrbLayer::method_unset);
-  int number = 1;
-  for (const char* keyword : {"cross", "nest", "dot"}) {
-    layer.setMethod(static_cast<OrbLayer::ENUM_method>(number));
-    EXPECT_EQ(utf8(layer.GetAttribute(u"method")), keyword);
-    EXPECT_EQ(layer.getMethod(), number++);
-  }
-  layer.setMethod(OrbLayer::method_unset);
-  EXPECT_EQ(layer.getMethod(), OrbLayer::method_dot);
-  layer.SetAttribute(u"method", u"blend");
-  EXPECT_EQ(layer.getMethod(), OrbLayer::method_unset);
+  test::expectKeywords<OrbLayer>(u"method", &OrbLayer::getMethod, &OrbLayer::setMethod, "cross nest dot",
+                                 {.foreign = "blend"});
 }
 
 TEST(VariableReferences, FindThreeKindsOfVariable) {

@@ -1,5 +1,6 @@
 // Domains, their references, domain modifiers, and the filters and relabels that stand near them.
 #include "dom.h"
+#include "keywords.h"
 #include "orbcategoricaldomain.h"
 #include "orbcategoricaldomainmodifier.h"
 #include "orbcategories.h"
@@ -23,6 +24,7 @@
 #include <gtest/gtest.h>
 
 using test::childrenOf;
+using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
 using test::Platform;
@@ -31,30 +33,13 @@ using test::utf8;
 
 namespace {
 
-std::string danglingRef(const OrbDomainReference& reference) {
-  try {
-    reference.getRef();
-  } catch (const OrbException& exception) {
-    return exception.what();
-  }
-  return "nothing raised";
-}
-
 template <class Modifier> void expectModifier() {
   const Platform platform;
   SCOPED_TRACE(utf8(Modifier::elementName));
   const NewDocument document(Modifier::elementName);
   Modifier modifier(document.root());
   EXPECT_EQ(document.root()->getUserData(Modifier::elementName), &modifier);
-  EXPECT_EQ(modifier.getDateType(), 0);
-  int number = 0;
-  for (const XMLCh* keyword : {u"date", u"dateTime", u"time"}) {
-    modifier.setDateType(static_cast<typename Modifier::ENUM_dateType>(++number));
-    EXPECT_EQ(utf8(document.root()->getAttribute(u"dateType")), utf8(keyword));
-    EXPECT_EQ(modifier.getDateType(), number);
-  }
-  modifier.setDateType(Modifier::dateType_unset);
-  EXPECT_EQ(modifier.getDateType(), 3) << "a number without keyword writes nothing";
+  test::expectKeywords<Modifier>(u"dateType", &Modifier::getDateType, &Modifier::setDateType, "date dateTime time");
 
   modifier.addDomainExclude();
   modifier.addDomainReplace();
@@ -131,8 +116,10 @@ TEST(Domains, AReferenceThatDanglesRaises) {
   const auto references = root.getCategoricalDomains().at(0)->getDomainReferences();
   EXPECT_EQ(references.at(0)->getRef(), root.getIntervalDomains().at(0)) << "a target may stand later";
   EXPECT_EQ(references.at(1)->getRef(), nullptr) << "an element of another class";
-  EXPECT_EQ(danglingRef(*references.at(2)), "Attribute Ref refers to gone, but that element does not exist.");
-  EXPECT_EQ(danglingRef(*references.at(3)), "Attribute Ref refers to , but that element does not exist.");
+  EXPECT_EQ(messageOf([&] { references.at(2)->getRef(); }),
+            "Attribute Ref refers to gone, but that element does not exist.");
+  EXPECT_EQ(messageOf([&] { references.at(3)->getRef(); }),
+            "Attribute Ref refers to , but that element does not exist.");
 
   references.at(0)->setRef(*root.getCategoricalDomains().at(0));
   EXPECT_EQ(references.at(0)->getRef(), root.getIntervalDomains().at(0)) << "a target without an id writes nothing";

@@ -1,5 +1,6 @@
 // The graphic elements: where their children go, limits, removal by position, numberings, loading and references.
 #include "dom.h"
+#include "keywords.h"
 #include "orbaggregatestatistic.h"
 #include "orbarea.h"
 #include "orbattach.h"
@@ -46,6 +47,7 @@
 #include <vector>
 
 using test::childrenOf;
+using test::expectKeywords;
 using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
@@ -243,42 +245,19 @@ TEST(Element, RemovesOneOfFiveFamiliesByPosition) {
   expectRemovesOne(&E::getPatterns, &E::removePattern);
 }
 
-/// Keywords numbered from a first number on, written and read; no other number is written, and no other text is read.
-template <class Wrapper, class Base, class Enumeration>
-void expectNumbered(const XMLCh* attribute, void (Base::*set)(Enumeration), Enumeration (Base::*get)() const, int first,
-                    const Names& keywords) {
-  const test::Platform platform;
-  SCOPED_TRACE(utf8(Wrapper::elementName) + " " + utf8(attribute));
-  const NewDocument document(Wrapper::elementName);
-  Wrapper wrapper(document.root());
-  EXPECT_EQ((wrapper.*get)(), 0);
-  int number = first;
-  for (const std::string& keyword : keywords) {
-    (wrapper.*set)(static_cast<Enumeration>(number));
-    EXPECT_EQ(utf8(wrapper.GetAttribute(attribute)), keyword);
-    EXPECT_EQ((wrapper.*get)(), number);
-    ++number;
-  }
-  for (const int outside : {first - 1, number})
-    (wrapper.*set)(static_cast<Enumeration>(outside));
-  EXPECT_EQ(utf8(wrapper.GetAttribute(attribute)), keywords.back());
-  wrapper.SetAttribute(attribute, u"Cell");
-  EXPECT_EQ((wrapper.*get)(), 0);
-}
-
 TEST(Element, KeywordsHaveTheirNumbers) {
-  expectNumbered<OrbPoint>(u"labelCollisionHandling", &E::setLabelCollisionHandling, &E::getLabelCollisionHandling, 1,
-                           {"none", "normal", "fast", "quality", "extreme", "basic", "outside", "inside"});
-  expectNumbered<OrbPoint>(u"positionModifier", &E::setPositionModifier, &E::getPositionModifier, 1,
-                           {"none", "center", "stack", "stackInterpolating", "setMissingsToZero", "minusIntersection",
-                            "dodge", "pile", "jitterJointUniform", "jitterConditionalUniform", "jitterJointNormal",
-                            "jitterConditionalNormal", "centerStacked"});
-  expectNumbered<OrbPoint>(u"clip", &E::setClip, &E::getClip, 0, {"none", "cell", "domain"});
-  const Names breaks = {"gap", "interpolate", "wings"};
+  expectKeywords<OrbPoint>(u"labelCollisionHandling", &E::getLabelCollisionHandling, &E::setLabelCollisionHandling,
+                           "none normal fast quality extreme basic outside inside");
+  expectKeywords<OrbPoint>(u"positionModifier", &E::getPositionModifier, &E::setPositionModifier,
+                           "none center stack stackInterpolating setMissingsToZero minusIntersection dodge pile "
+                           "jitterJointUniform jitterConditionalUniform jitterJointNormal jitterConditionalNormal "
+                           "centerStacked");
+  expectKeywords<OrbPoint>(u"clip", &E::getClip, &E::setClip, "none cell domain", {.first = 0});
+  const std::string breaks = "gap interpolate wings";
   const XMLCh* name = u"breakRepresentation";
-  expectNumbered<OrbArea>(name, &OrbArea::setBreakRepresentation, &OrbArea::getBreakRepresentation, 1, breaks);
-  expectNumbered<OrbLine>(name, &OrbLine::setBreakRepresentation, &OrbLine::getBreakRepresentation, 1, breaks);
-  expectNumbered<OrbPath>(name, &OrbPath::setBreakRepresentation, &OrbPath::getBreakRepresentation, 1, breaks);
+  expectKeywords<OrbArea>(name, &OrbArea::getBreakRepresentation, &OrbArea::setBreakRepresentation, breaks);
+  expectKeywords<OrbLine>(name, &OrbLine::getBreakRepresentation, &OrbLine::setBreakRepresentation, breaks);
+  expectKeywords<OrbPath>(name, &OrbPath::getBreakRepresentation, &OrbPath::setBreakRepresentation, breaks);
 }
 
 /// The wrapper stands under its element's name, refuses an unknown child, and leaves no pointer behind when it does.

@@ -1,6 +1,7 @@
 // Graphs: the order and the limits of their children, and their coordinates, dimensions and scales.
 #include "chartstring.h"
 #include "dom.h"
+#include "keywords.h"
 #include "orbarea.h"
 #include "orbcategoricaldomain.h"
 #include "orbcoordinates.h"
@@ -35,10 +36,10 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 
 using test::childrenOf;
+using test::expectKeywords;
 using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
@@ -60,27 +61,6 @@ protected:
 /// The first element of a document with a given name.
 DOMElement* find(const Parsed& parsed, const XMLCh* name) {
   return static_cast<DOMElement*>(parsed.document()->getElementsByTagName(name)->item(0));
-}
-
-/// The keywords of an attribute have the numbers from 1 on; other numbers write nothing, other texts read as 0.
-template <class Wrapper, class Value>
-void expectKeywords(Wrapper& wrapper, const XMLCh* name, Value (Wrapper::*get)() const, void (Wrapper::*set)(Value),
-                    const std::string& keywords) {
-  DOMElement* element = wrapper.getImplementation();
-  int last = 0;
-  std::istringstream words(keywords);
-  for (std::string word; words >> word;) {
-    (wrapper.*set)(static_cast<Value>(++last));
-    EXPECT_EQ(utf8(element->getAttribute(name)), word);
-    EXPECT_EQ((wrapper.*get)(), last) << word;
-  }
-  element->setAttribute(name, u"Log");
-  (wrapper.*set)(static_cast<Value>(0));
-  (wrapper.*set)(static_cast<Value>(last + 1));
-  EXPECT_EQ(utf8(element->getAttribute(name)), "Log");
-  EXPECT_EQ((wrapper.*get)(), 0);
-  element->removeAttribute(name);
-  EXPECT_EQ((wrapper.*get)(), 0);
 }
 
 } // namespace
@@ -316,11 +296,11 @@ TEST(Dimensions, ReferToDomainsModifiersAndVariables) {
 TEST(Scales, HaveDistributionsAndMethods) {
   const NewDocument document(u"scale");
   OrbScale scale(document.root());
-  expectKeywords(scale, u"distribution", &OrbScale::getDistribution, &OrbScale::setDistribution,
-                 "uniform normal t f chisquare gamma beta exponential logistic studentizedrange weibull poisson "
-                 "binomialnegative gaussianinverse");
-  expectKeywords(scale, u"method", &OrbScale::getMethod, &OrbScale::setMethod,
-                 "linear log power log.safe power.safe logit probit asn atanh prob cLoglog");
+  expectKeywords<OrbScale>(u"distribution", &OrbScale::getDistribution, &OrbScale::setDistribution,
+                           "uniform normal t f chisquare gamma beta exponential logistic studentizedrange "
+                           "weibull poisson binomialnegative gaussianinverse");
+  expectKeywords<OrbScale>(u"method", &OrbScale::getMethod, &OrbScale::setMethod,
+                           "linear log power log.safe power.safe logit probit asn atanh prob cLoglog");
   scale.setDistributionParameter(1.5);
   scale.setDistributionParameter2(-2);
   EXPECT_EQ(scale.getDistributionParameter(), 1.5);

@@ -1,5 +1,6 @@
 // Summaries, bins and conditions: one list of keywords in several numberings, fallbacks, getters unlike their setters.
 #include "dom.h"
+#include "keywords.h"
 #include "orbaggregate.h"
 #include "orbaggregation.h"
 #include "orbbinstatistic.h"
@@ -14,9 +15,10 @@
 
 #include <gtest/gtest.h>
 
-#include <iterator>
 #include <limits>
+#include <string>
 
+using test::expectKeywords;
 using test::NewDocument;
 using test::Parsed;
 using test::utf8;
@@ -24,93 +26,28 @@ using xercesc::DOMElement;
 
 namespace {
 
-const XMLCh* const summaries[] = {
-    u"mean",
-    u"sum",
-    u"midRange",
-    u"percent",
-    u"percentCount",
-    u"fraction",
-    u"fractionCount",
-    u"range",
-    u"confidenceIntervalOfMean",
-    u"confidenceIntervalIndividual",
-    u"count",
-    u"confidenceIntervalOfCount",
-    u"confidenceIntervalOfPercentCount",
-    u"confidenceIntervalOfFractionCount",
-    u"rowCount",
-    u"stddev",
-    u"stderr",
-    u"median",
-    u"max",
-    u"min",
-    u"variance",
-    u"cumulativeSum",
-    u"cumulativePercent",
-    u"cumulativePercentCount",
-    u"cumulativeFraction",
-    u"cumulativeFractionCount",
-    u"cumulativeCount",
-    u"first",
-    u"last",
-    u"percentile",
-    u"mode",
-    u"countTrue",
-    u"percentTrue",
-    u"fractionTrue",
-    u"kurtosis",
-    u"seKurtosis",
-    u"skewness",
-    u"seSkewness",
-};
-
-/// Reads and writes every keyword of the list through an enumeration that knows the first of them.
-template <class Wrapper, class Enumeration>
-void expectNumbering(const XMLCh* attribute, Enumeration (Wrapper::*get)() const, void (Wrapper::*set)(Enumeration),
-                     int first, int count, int fallback) {
-  const NewDocument document(Wrapper::elementName);
-  Wrapper wrapper(document.root());
-  EXPECT_EQ((wrapper.*get)(), fallback);
-  for (int index = -1; index <= static_cast<int>(std::size(summaries)); ++index) {
-    const bool inList = index >= 0 && index < static_cast<int>(std::size(summaries));
-    const bool known = inList && index < count;
-    wrapper.SetAttribute(attribute, inList ? summaries[index] : u"Mean");
-    EXPECT_EQ((wrapper.*get)(), known ? first + index : fallback) << index;
-    wrapper.SetAttribute(attribute, u"kept");
-    (wrapper.*set)(static_cast<Enumeration>(first + index));
-    EXPECT_EQ(utf8(wrapper.GetAttribute(attribute)), known ? utf8(summaries[index]) : "kept") << index;
-  }
-}
+const std::string summaries = "mean sum midRange percent percentCount fraction fractionCount range "
+                              "confidenceIntervalOfMean confidenceIntervalIndividual count confidenceIntervalOfCount "
+                              "confidenceIntervalOfPercentCount confidenceIntervalOfFractionCount rowCount stddev "
+                              "stderr median max min variance cumulativeSum cumulativePercent cumulativePercentCount "
+                              "cumulativeFraction cumulativeFractionCount cumulativeCount first last percentile mode "
+                              "countTrue percentTrue fractionTrue";
+const char* const moments = "kurtosis seKurtosis skewness seSkewness";
 
 } // namespace
 
 TEST(Summaries, AreNumberedByEachEnumerationInItsWay) {
-  expectNumbering(u"method", &OrbSummaryStatistic::getMethod, &OrbSummaryStatistic::setMethod, 0, 38, 38);
-  expectNumbering(u"summary", &OrbWhen::getSummary, &OrbWhen::setSummary, 1, 34, 0);
+  using S = OrbSummaryStatistic;
+  expectKeywords<S>(u"method", &S::getMethod, &S::setMethod, summaries + " " + moments, {.first = 0, .fallback = 38});
+  expectKeywords<S>(u"summaryBase", &S::getSummaryBase, &S::setSummaryBase, "global aesthetic coordinate",
+                    {.first = 0, .fallback = 3});
+  expectKeywords<S>(u"augment", &S::getAugment, &S::setAugment, "zero missing none");
+  expectKeywords<OrbWhen>(u"summary", &OrbWhen::getSummary, &OrbWhen::setSummary, summaries, {.foreign = moments});
 }
 
-TEST(Summaries, FallBackToThreeDifferentNumbers) {
+TEST(Summaries, KeepTheLargestIndex) {
   const NewDocument document(u"summaryStatistic");
   OrbSummaryStatistic statistic(document.root());
-  EXPECT_EQ(statistic.getMethod(), 38);
-  EXPECT_EQ(statistic.getSummaryBase(), 3);
-  EXPECT_EQ(statistic.getAugment(), 0);
-  statistic.setMethod(OrbSummaryStatistic::method_unset);
-  statistic.setSummaryBase(OrbSummaryStatistic::summaryBase_unset);
-  statistic.setAugment(OrbSummaryStatistic::augment_unset);
-  EXPECT_EQ(document.root()->getAttributes()->getLength(), 0U);
-
-  statistic.setSummaryBase(OrbSummaryStatistic::summaryBase_global);
-  EXPECT_EQ(utf8(statistic.GetAttribute(u"summaryBase")), "global");
-  statistic.SetAttribute(u"summaryBase", u"coordinate");
-  EXPECT_EQ(statistic.getSummaryBase(), OrbSummaryStatistic::summaryBase_coordinate);
-  for (const auto augment :
-       {OrbSummaryStatistic::augment_zero, OrbSummaryStatistic::augment_missing, OrbSummaryStatistic::augment_none}) {
-    statistic.setAugment(augment);
-    EXPECT_EQ(statistic.getAugment(), augment);
-  }
-  EXPECT_EQ(utf8(statistic.GetAttribute(u"augment")), "none");
   statistic.setSummaryIndex(std::numeric_limits<unsigned int>::max());
   EXPECT_EQ(statistic.getSummaryIndex(), std::numeric_limits<unsigned int>::max());
 }
@@ -131,15 +68,10 @@ TEST(Bins, ReadTheirMethodAsANumberAndWriteItAsAKeyword) {
   bins.SetAttribute(u"method", u"3");
   EXPECT_EQ(bins.getMethod(), 0);
 
-  EXPECT_EQ(bins.getLocation(), OrbBinStatistic::location_grid);
-  bins.setLocation(OrbBinStatistic::location_centroid);
-  EXPECT_EQ(bins.getLocation(), 1);
-  number = 0;
-  for (const char* keyword : {"hex", "dot", "square", "voronoi"}) {
-    bins.setGridType(static_cast<OrbBinStatistic::ENUM_gridType>(number));
-    EXPECT_EQ(utf8(bins.GetAttribute(u"gridType")), keyword);
-    EXPECT_EQ(bins.getGridType(), number++);
-  }
+  expectKeywords<OrbBinStatistic>(u"location", &OrbBinStatistic::getLocation, &OrbBinStatistic::setLocation,
+                                  "grid centroid", {.first = 0});
+  expectKeywords<OrbBinStatistic>(u"gridType", &OrbBinStatistic::getGridType, &OrbBinStatistic::setGridType,
+                                  "hex dot square voronoi", {.first = 0});
 }
 
 TEST(Conditions, FindVariablesThatAnAggregationDoesNot) {

@@ -1,6 +1,7 @@
 // Styles: the record of attributes, each with its own name, and what deviates from the idioms; references to styles.
 #include "chartstring.h"
 #include "dom.h"
+#include "keywords.h"
 #include "orbconditionalstyle.h"
 #include "orbexception.h"
 #include "orbstyle.h"
@@ -55,20 +56,13 @@ protected:
     }
   }
 
-  /// The keywords have the numbers from 1 on; other numbers write nothing, other texts read as 0.
+  /// The keywords have the numbers from 1 on, and each is its attribute's own.
   template <class Value> void expectKeywords(const Attribute<Value>& attribute, const std::string& keywords) {
-    const auto number = [](int n) { return static_cast<Value>(n); };
-    int last = 0;
+    int number = 0;
     std::istringstream words(keywords);
     for (std::string word; words >> word;)
-      expectOwn<Value>({attribute}, number(++last), word);
-    EXPECT_EQ((style.*attribute.get)(), 0);
-    element->setAttribute(attribute.name, u"Foreign");
-    (style.*attribute.set)(number(0));
-    (style.*attribute.set)(number(last + 1));
-    EXPECT_EQ(text(attribute.name), "Foreign");
-    EXPECT_EQ((style.*attribute.get)(), 0);
-    (style.*attribute.remove)();
+      expectOwn<Value>({attribute}, static_cast<Value>(++number), word);
+    test::expectKeywords<OrbStyle>(attribute.name, attribute.get, attribute.set, keywords);
   }
 
   const NewDocument document{u"style"};

@@ -1,6 +1,7 @@
 // Variables: what they refer to, what they hold, and how they load.
 #include "chartstring.h"
 #include "dom.h"
+#include "keywords.h"
 #include "orbaggregation.h"
 #include "orbcategoricaldomain.h"
 #include "orbdatabasesource.h"
@@ -20,10 +21,12 @@
 #include "orbvariablename.h"
 #include "orbvariablereference.h"
 #include "orbvisualization.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
 using test::childrenOf;
+using test::messageOf;
 using test::NewDocument;
 using test::Parsed;
 using test::Platform;
@@ -93,17 +96,8 @@ TEST(Variables, ReachTheirDomainByItsKindAndItsModifierByItsClass) {
 }
 
 TEST(Variables, NumberTheirMeasurementLevels) {
-  const NewDocument document(u"sourceVariable");
-  OrbSourceVariable variable(document.root(), u"v");
-  EXPECT_EQ(variable.getMeasurementLevel(), 0);
-  int number = 0;
-  for (const XMLCh* keyword : {u"nominal", u"ordinal", u"interval", u"ratio"}) {
-    variable.setMeasurementLevel(static_cast<CTVariableType::ENUM_measurementLevel>(++number));
-    EXPECT_EQ(utf8(variable.GetAttribute(u"measurementLevel")), utf8(keyword));
-    EXPECT_EQ(variable.getMeasurementLevel(), number);
-  }
-  variable.setMeasurementLevel(CTVariableType::measurementLevel_unset);
-  EXPECT_EQ(variable.getMeasurementLevel(), 4);
+  test::expectKeywords<OrbSourceVariable>(u"measurementLevel", &OrbSourceVariable::getMeasurementLevel,
+                                          &OrbSourceVariable::setMeasurementLevel, "nominal ordinal interval ratio");
 }
 
 TEST(Variables, GatherSmallCategoriesOnce) {
@@ -114,13 +108,8 @@ TEST(Variables, GatherSmallCategoriesOnce) {
   EXPECT_EQ(utf8(aggregation.getNewCategory()), "other");
   EXPECT_EQ(aggregation.getSumVariable(), root.getSourceVariables().at(0));
   EXPECT_EQ(aggregation.getMinFraction(), 0.05);
-  try {
-    variable.addAggregation(u"rest", variable, 0.1);
-    ADD_FAILURE() << "nothing raised";
-  } catch (const OrbException& exception) {
-    EXPECT_STREQ(exception.what(),
-                 "Can not add a Aggregation to a VariableType because 1 Aggregation(s) already exist(s).");
-  }
+  EXPECT_EQ(messageOf([&] { variable.addAggregation(u"rest", variable, 0.1); }),
+            "Can not add a Aggregation to a VariableType because 1 Aggregation(s) already exist(s).");
   EXPECT_EQ(childrenOf(variable.getImplementation()), "aggregation");
   EXPECT_EQ(variable.removeAggregations(), 1U);
   EXPECT_NE(variable.addAggregation(u"rest", variable, 0.1), nullptr);
