@@ -1,6 +1,7 @@
 // The walk over the DOM and the markup that it writes.
 #include "domprinter.h"
 
+#include "attributevalue.h"
 #include "chartprinter.h"
 #include "domprintformattarget.h"
 #include "linelayout.h"
@@ -40,12 +41,6 @@ const XMLCh* encodingOf(const DOMDocument* document) {
 const XMLCh* versionOf(const DOMDocument* document) {
   const XMLCh* version = document->getXmlVersion();
   return isEmpty(version) ? u"1.0" : version;
-}
-
-/// An attribute's value is nearly always one text. To ask for that spares the DOM's own, slower way to it.
-const XMLCh* valueOf(const DOMNode* attribute) {
-  const DOMNode* text = attribute->getFirstChild();
-  return isText(text) && text->getNextSibling() == nullptr ? text->getNodeValue() : attribute->getNodeValue();
 }
 
 } // namespace
@@ -268,7 +263,7 @@ const DOMPrinter::Run::Attributes& DOMPrinter::Run::attributesOf(const DOMNode* 
   const XMLSize_t count = map->getLength();
   for (XMLSize_t i = 0; i < count; ++i) {
     const DOMNode* attribute = map->item(i);
-    const XMLCh* value = valueOf(attribute);
+    const XMLCh* value = orbchart::attributeValue(*attribute);
     __builtin_prefetch(value);
     attributes_.emplace_back(attribute->getNodeName(), value);
   }

@@ -1,6 +1,7 @@
 // The base of every wrapper.
 #include "orbbaseelement.h"
 
+#include "attributevalue.h"
 #include "chartprinter.h"
 #include "chartstring.h"
 #include "orbuni.h"
@@ -77,7 +78,8 @@ std::string OrbBaseElement::AsUTF8() const {
 DOMElement* OrbBaseElement::getImplementation() const { return element_; }
 
 const XMLCh* OrbBaseElement::GetAttribute(const XMLCh* name) const {
-  return name == nullptr ? u"" : element_->getAttribute(name);
+  const DOMAttr* attribute = name == nullptr ? nullptr : element_->getAttributeNode(name);
+  return attribute == nullptr ? u"" : orbchart::attributeValue(*attribute);
 }
 
 DOMAttr* OrbBaseElement::AddAttribute(const XMLCh* name, const XMLCh* value) {
