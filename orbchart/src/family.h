@@ -114,8 +114,11 @@ public:
   /// The family as a vector that stays the family's own.
   const std::vector<Child*>& live() {
     if (!isVector()) {
-      const std::span<Child* const> wrapper = wrappers();
-      setVector(new std::vector<Child*>(wrapper.begin(), wrapper.end()));
+      auto several = std::make_unique<std::vector<Child*>>();
+      several->reserve(4); // most have few
+      if (only_ != nullptr)
+        several->push_back(only_);
+      setVector(several.release());
     }
     return *vector();
   }
