@@ -9,8 +9,10 @@
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/util/XMLString.hpp>
 
+#include <algorithm>
+#include <deque>
+#include <iterator>
 #include <string>
-#include <vector>
 
 using xercesc::DOMElement;
 using xercesc::DOMNode;
@@ -29,7 +31,7 @@ struct Binding {
 struct Load {
   const OrbBaseElement& outermost;
   unsigned int level = 0;
-  std::vector<Binding> bindings;
+  std::deque<Binding> bindings;
 };
 
 thread_local Load* running = nullptr;
@@ -138,12 +140,12 @@ void wrapChildren(const OrbBaseElement& parent, DOMNode* node, void* families, c
 }
 
 /// An element has left the processor's cache since it was wrapped, and is fetched again some bindings ahead.
-void bindAll(const std::vector<Binding>& bindings) {
-  constexpr std::size_t ahead = 8;
-  for (std::size_t i = 0; i < bindings.size(); ++i) {
-    if (i + ahead < bindings.size())
-      __builtin_prefetch(bindings[i + ahead].element);
-    bindings[i].element->setUserData(bindings[i].key, bindings[i].wrapper, nullptr);
+void bindAll(const std::deque<Binding>& bindings) {
+  auto ahead = bindings.begin() + std::min<std::ptrdiff_t>(8, std::ssize(bindings));
+  for (const Binding& binding : bindings) {
+    if (ahead != bindings.end())
+      __builtin_prefetch(ahead++->element);
+    binding.element->setUserData(binding.key, binding.wrapper, nullptr);
   }
 }
 
