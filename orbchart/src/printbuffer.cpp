@@ -104,7 +104,8 @@ PrintBuffer::PrintBuffer(XMLFormatter& formatter, const XMLCh* version) :
   constexpr std::uint8_t everywhere = asItStands | inAttribute | inText;
   std::copy_n(referencedUnits[isVersion11_].places, std::size(special_), special_);
   // A few encodings lack some of ASCII: the backslash, or what shifts their state.
-  for (XMLCh unit = 1; unit < std::size(special_); ++unit) {
+  for (std::size_t ascii = 1; ascii < std::size(special_); ++ascii) {
+    const auto unit = static_cast<XMLCh>(ascii);
     if (!canHold({&unit, 1}))
       special_[unit] = everywhere;
   }
