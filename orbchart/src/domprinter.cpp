@@ -19,6 +19,7 @@
 #include <utility>
 #include <vector>
 
+using orbchart::isEmpty;
 using orbchart::isText;
 using xercesc::DOMDocument;
 using xercesc::DOMDocumentType;
@@ -30,8 +31,6 @@ using xercesc::XMLFormatter;
 using xercesc::XMLString;
 
 namespace {
-
-bool isEmpty(const XMLCh* text) { return text == nullptr || *text == 0; }
 
 const XMLCh* encodingOf(const DOMDocument* document) {
   const XMLCh* encoding = document->getXmlEncoding();

@@ -15,14 +15,13 @@
 
 #include <sstream>
 
+using orbchart::isEmpty;
 using xercesc::DOMAttr;
 using xercesc::DOMElement;
 using xercesc::DOMNode;
 using xercesc::XMLString;
 
 namespace {
-
-bool isEmpty(const XMLCh* text) { return text == nullptr || *text == 0; }
 
 /// A node's own name and id, as the log speaks of the places of an id.
 void appendPlace(ChartString& message, const DOMNode& node) {

@@ -2,6 +2,7 @@
 #include "orbstyle.h"
 
 #include "attribute.h"
+#include "attributevalue.h"
 #include "chartstring.h"
 #include "family.h"
 #include "keyword.h"
@@ -185,8 +186,7 @@ void writeTriple(OrbStyle& style, const XMLCh* name, const XMLCh* oldText, const
   for (std::size_t i = 0; i < fields.size(); ++i) {
     if (i != 0)
       text.append(u';');
-    const bool keeps = given[i] == nullptr || *given[i] == 0;
-    text.append(keeps ? fields[i].xc_str() : given[i]);
+    text.append(isEmpty(given[i]) ? fields[i].xc_str() : given[i]);
   }
   style.SetAttribute(name, text.xc_str());
 }
