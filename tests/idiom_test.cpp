@@ -5,6 +5,7 @@
 #include "elementtext.h"
 #include "family.h"
 #include "keyword.h"
+#include "orbexception.h"
 #include "orbuni.h"
 #include "placement.h"
 #include "raised.h"
@@ -35,7 +36,7 @@ public:
   Counted(const Counted&) = delete;
   ~Counted() override { --alive; }
   const XMLCh* getId() const { return GetAttribute(OrbUni::_id); }
-  void setId(const XMLCh* id) { writeId(*this, id); }
+  void setId(const XMLCh* id) { Id().set(*this, id); }
 };
 
 class Leaf : public Counted {
@@ -61,6 +62,9 @@ public:
   explicit Note(DOMElement* element) : Counted(element) { bindLeaf(*this); }
 };
 
+constexpr AtMost twoMarks{2, "Branch can have at most 2 mark children."};
+constexpr OnlyOne oneNote{"Note", "Branch"};
+
 /// Leaves, then at most two marks, then at most one note; branches anywhere.
 class Branch : public Counted {
 public:
@@ -70,13 +74,27 @@ public:
     bind(*this);
   }
   Leaf* addLeaf(const XMLCh* id) { return children.add<Leaf>(*this, FamilyList<Mark, Note>{}, id); }
-  Mark* addMark() {
-    return children.add<Mark>(*this, AtMost(2, "Branch can have at most 2 mark children."), FamilyList<Note>{});
-  }
-  Note* addNote() { return children.add<Note>(*this, OnlyOne("Note", "Branch"), atEnd); }
+  Mark* addMark() { return children.add<Mark>(*this, FamilyList<Note>{}); }
+  Note* addNote() { return children.add<Note>(*this, atEnd); }
   Branch* addBranch() { return children.add<Branch>(*this, atEnd); }
 
-  ChildFamilies<FamilyList<Leaf, Mark, Note, Branch>> children;
+  ChildFamilies<FamilyList<Leaf, Limited<Mark, twoMarks>, Limited<Note, oneNote>, Branch>> children;
+};
+
+constexpr UpTo threeLeaves{3, "Leaf", "Choice"};
+constexpr OneAmong<Mark, Note> markAlone{"Mark", "Choice"};
+constexpr OneAmong<Mark, Note> noteAlone{"Note", "Choice"};
+
+/// Up to three leaves, and a mark or a note; takes the ids off the leaves that it removes.
+class Choice : public Counted {
+public:
+  static constexpr const XMLCh* elementName = u"choice";
+  explicit Choice(DOMElement* element) : Counted(element) {
+    children.load(*this);
+    bind(*this);
+  }
+  ChildFamilies<FamilyList<StripsIds<Limited<Leaf, threeLeaves>>, Limited<Mark, markAlone>, Limited<Note, noteAlone>>>
+      children;
 };
 
 /// Knows leaves and passes over the rest.
@@ -84,10 +102,25 @@ class Tolerant : public Counted {
 public:
   static constexpr const XMLCh* elementName = u"tolerant";
   explicit Tolerant(DOMElement* element) : Counted(element) {
-    children.load(*this, Unknown::passes);
+    children.load(*this);
     bind(*this);
   }
-  ChildFamilies<FamilyList<Leaf>> children;
+  ChildFamilies<FamilyList<Leaf>, Unknown::passes> children;
+};
+
+/// Wraps its leaves twice, as a class does that has them in common with its base.
+class Twice : public Counted {
+public:
+  static constexpr const XMLCh* elementName = u"twice";
+  explicit Twice(DOMElement* element) : Counted(element) {
+    JointLoad load(*this);
+    first.load(*this);
+    second.load(*this);
+    load.run();
+    bind(*this);
+  }
+  ChildFamilies<FamilyList<Leaf>, Unknown::passes> first;
+  ChildFamilies<FamilyList<Leaf, Branch>> second;
 };
 
 } // namespace
@@ -99,28 +132,34 @@ TEST(Attributes, ReadWhatIsOfTheirKindAndNothingElse) {
     document.root()->setAttribute(u"a", value);
     return &wrapper;
   };
-  EXPECT_TRUE(readBoolean(*text(u"true"), u"a"));
+  constexpr Boolean boolean{u"a"};
+  constexpr TrueUnlessFalse trueUnlessFalse{u"a"};
+  EXPECT_TRUE(boolean.get(*text(u"true")));
   for (const XMLCh* other : {u"1", u"TRUE", u" true", u"", u"false"})
-    EXPECT_FALSE(readBoolean(*text(other), u"a")) << test::utf8(other);
+    EXPECT_FALSE(boolean.get(*text(other))) << test::utf8(other);
   for (const XMLCh* other : {u"FALSE", u"", u"0", u"true"})
-    EXPECT_TRUE(readBooleanUnlessFalse(*text(other), u"a")) << test::utf8(other);
-  EXPECT_FALSE(readBooleanUnlessFalse(*text(u"false"), u"a"));
+    EXPECT_TRUE(trueUnlessFalse.get(*text(other))) << test::utf8(other);
+  EXPECT_FALSE(trueUnlessFalse.get(*text(u"false")));
 
-  EXPECT_EQ(readInteger(*text(u"12"), u"a"), 12);
+  constexpr Integer integer{u"a"};
+  constexpr Unsigned unsignedInteger{u"a"};
+  constexpr Double number{u"a"};
+  EXPECT_EQ(integer.get(*text(u"12")), 12);
   for (const XMLCh* other : {u"-12", u"1.5", u"12 ", u"x", u""})
-    EXPECT_EQ(readInteger(*text(other), u"a"), 0) << test::utf8(other);
-  writeInteger(wrapper, u"a", -12);
+    EXPECT_EQ(integer.get(*text(other)), 0) << test::utf8(other);
+  integer.set(wrapper, -12);
   EXPECT_EQ(test::utf8(wrapper.GetAttribute(u"a")), "-12");
-  writeUnsigned(wrapper, u"a", 4294967295U);
-  EXPECT_EQ(readUnsigned(wrapper, u"a"), 4294967295U);
-  writeDouble(wrapper, u"a", 0.1);
+  unsignedInteger.set(wrapper, 4294967295U);
+  EXPECT_EQ(unsignedInteger.get(wrapper), 4294967295U);
+  number.set(wrapper, 0.1);
   EXPECT_EQ(test::utf8(wrapper.GetAttribute(u"a")), "0.1");
-  EXPECT_EQ(readDouble(*text(u"2,5pt"), u"a"), 2.5);
+  EXPECT_EQ(number.get(*text(u"2,5pt")), 2.5);
 
-  EXPECT_FALSE(isPresent(*text(u""), u"a"));
-  EXPECT_TRUE(isPresent(*text(u"x"), u"a"));
-  removeAttribute(wrapper, u"a");
-  removeAttribute(wrapper, u"a");
+  constexpr Text plain{u"a"};
+  EXPECT_FALSE(plain.isPresent(*text(u"")));
+  EXPECT_TRUE(plain.isPresent(*text(u"x")));
+  plain.remove(wrapper);
+  plain.remove(wrapper);
   EXPECT_FALSE(document.root()->hasAttribute(u"a"));
 }
 
@@ -141,21 +180,21 @@ TEST(Keywords, HaveEachKindOfFallback) {
   enum Repeat : int { never = 0, always = 1 };
   enum Method : int { methodUnset = 0, linear = 1 };
   enum Summary : int { mean = 0, sum = 1, summaryUnset = 2 };
-  static constexpr Keyword<Repeat> repeats[] = {{never, OrbUni::_never}, {always, OrbUni::_always}};
-  static constexpr Keyword<Method> methods[] = {{linear, OrbUni::_linear}};
-  static constexpr Keyword<Summary> summaries[] = {{mean, OrbUni::_mean}, {sum, OrbUni::_sum}};
+  constexpr Keywords repeat{u"a", AbsentReadsAs(never), {{never, OrbUni::_never}, {always, OrbUni::_always}}};
+  constexpr Keywords method{u"a", methodUnset, {{linear, OrbUni::_linear}}};
+  constexpr Keywords summary{u"a", summaryUnset, {{mean, OrbUni::_mean}, {sum, OrbUni::_sum}}};
   const NewDocument document(u"leaf");
   OrbBaseElement wrapper(document.root());
   for (const XMLCh* text : {u"", u"Always", u"always "}) {
     document.root()->setAttribute(u"a", text);
-    EXPECT_EQ(readKeyword(wrapper, u"a", repeats, never), never);
-    EXPECT_EQ(readKeyword(wrapper, u"a", methods, methodUnset), methodUnset);
-    EXPECT_EQ(readKeyword(wrapper, u"a", summaries, summaryUnset), summaryUnset);
+    EXPECT_EQ(repeat.get(wrapper), never);
+    EXPECT_EQ(method.get(wrapper), methodUnset);
+    EXPECT_EQ(summary.get(wrapper), summaryUnset);
   }
-  writeKeyword(wrapper, u"a", repeats, always);
-  EXPECT_EQ(readKeyword(wrapper, u"a", repeats, never), always);
-  writeKeyword(wrapper, u"a", methods, methodUnset);
-  writeKeyword(wrapper, u"a", summaries, static_cast<Summary>(77));
+  repeat.set(wrapper, always);
+  EXPECT_EQ(repeat.get(wrapper), always);
+  method.set(wrapper, methodUnset);
+  summary.set(wrapper, static_cast<Summary>(77));
   EXPECT_EQ(test::utf8(wrapper.GetAttribute(u"a")), "always");
 }
 
@@ -164,7 +203,7 @@ TEST(References, TryTheirClassesInOrder) {
   Branch branch(parsed.root());
   const auto pointAt = [&](const XMLCh* id) {
     parsed.root()->setAttribute(u"to", id);
-    return readReferenceTo<Counted, Leaf, Mark>(branch, u"to");
+    return ReferenceTo<Counted, Leaf, Mark>(u"to").get(branch);
   };
   EXPECT_EQ(pointAt(u"l"), branch.children.first<Leaf>());
   EXPECT_EQ(pointAt(u"m"), branch.children.first<Mark>());
@@ -175,15 +214,17 @@ TEST(References, TryTheirClassesInOrder) {
   // An element may have several wrappers: the first class in the order is the answer.
   const Mark second(branch.children.first<Leaf>()->getImplementation());
   EXPECT_EQ(pointAt(u"l"), branch.children.first<Leaf>());
-  EXPECT_EQ((readReferenceTo<Counted, Mark, Leaf>(branch, u"to")), &second);
+  EXPECT_EQ((ReferenceTo<Counted, Mark, Leaf>(u"to").get(branch)), &second);
+  EXPECT_EQ((ReferenceTo<Counted>(u"to").get(branch)), nullptr);
+  EXPECT_EQ(AnyReference(u"to").get(branch), second.getImplementation());
 
   const Counted& target = *branch.children.first<Leaf>();
-  writeReferenceAmong<Mark, Note>(branch, u"other", target);
+  ReferenceTo<Counted, Mark, Note>(u"other").setAmong(branch, target);
   EXPECT_FALSE(parsed.root()->hasAttribute(u"other"));
-  writeReferenceAmong<Mark, Leaf>(branch, u"other", target);
+  ReferenceTo<Counted, Mark, Leaf>(u"other").setAmong(branch, target);
   EXPECT_EQ(test::utf8(branch.GetAttribute(u"other")), "l");
   branch.children.first<Mark>()->setId(nullptr);
-  writeReference(branch, u"other", *branch.children.first<Mark>());
+  AnyReference(u"other").set(branch, *branch.children.first<Mark>());
   EXPECT_EQ(test::utf8(branch.GetAttribute(u"other")), "l");
 }
 
@@ -225,13 +266,12 @@ TEST(Families, RemoveAllOneOrTheOneOverAnElement) {
   EXPECT_EQ(branch.getElementById(u"a"), a) << "the id stays registered";
   EXPECT_EQ(wrapperOn<Leaf>(*a), nullptr) << "and nothing points at the wrapper that is gone";
   EXPECT_FALSE(branch.children.removeOver<Leaf>(branch, branch.getElementById(u"m")));
-  EXPECT_TRUE(branch.children.removeOver<Leaf>(branch, branch.getElementById(u"c"), Ids::strip));
-  EXPECT_EQ(branch.getElementById(u"c"), nullptr);
+  EXPECT_TRUE(branch.children.removeOver<Leaf>(branch, branch.getElementById(u"c")));
   EXPECT_EQ(childrenOf(parsed.root()), "leaf#b mark#m");
 
   // A child that the host took out itself is no hindrance.
   branch.removeChildElement(branch.children.first<Leaf>());
-  EXPECT_EQ(branch.children.removeAll<Leaf>(branch, Ids::strip), 1U);
+  EXPECT_EQ(branch.children.removeAll<Leaf>(branch), 1U);
   EXPECT_EQ(branch.children.removeAll<Leaf>(branch), 0U);
   branch.addLeaf(u"d");
   EXPECT_EQ(childrenOf(parsed.root()), "leaf#d mark#m");
@@ -239,6 +279,22 @@ TEST(Families, RemoveAllOneOrTheOneOverAnElement) {
   EXPECT_EQ(childrenOf(parsed.root()), "leaf#d mark#m");
   EXPECT_EQ(branch.children.count<Leaf>(), 0U);
   EXPECT_EQ(wrapperOn<Leaf>(*branch.getElementById(u"d")), nullptr);
+}
+
+TEST(Families, OfAChoiceHaveOneChildInAll) {
+  const Parsed parsed(R"(<choice><leaf id="a"/><leaf id="b"/></choice>)");
+  Choice choice(parsed.root());
+  choice.children.add<Leaf>(choice, atEnd);
+  EXPECT_EQ(messageOf([&] { choice.children.add<Leaf>(choice, atEnd); }),
+            "Can not add a Leaf to a Choice because 3 Leaf(s) already exist(s).");
+  choice.children.add<Note>(choice, atEnd);
+  EXPECT_EQ(messageOf([&] { choice.children.add<Note>(choice, atEnd); }),
+            "Can not add a Note to a Choice because 1 Note(s) already exist(s).");
+  EXPECT_EQ(messageOf([&] { choice.children.add<Mark>(choice, atEnd); }),
+            "Can not add a Mark to a Choice because 1 Note(s) already exist(s).");
+  EXPECT_EQ(choice.children.removeAll<Leaf>(choice), 3U);
+  EXPECT_EQ(choice.getElementById(u"a"), nullptr) << "the document has forgotten the id";
+  EXPECT_EQ(childrenOf(parsed.root()), "note");
 }
 
 TEST(Families, LeaveNothingBehindWhenAnAddFails) {
@@ -289,10 +345,33 @@ TEST(Loading, OfAnUnknownChildRaisesAndLeavesTheDocumentAsItWas) {
   EXPECT_EQ(alive, 0);
   EXPECT_EQ(wrapperOn<Leaf>(static_cast<DOMElement&>(*parsed.root()->getFirstChild())), nullptr);
 
+  // What a failed load has stood in the place of comes back.
+  auto& leafElement = static_cast<DOMElement&>(*parsed.root()->getFirstChild());
+  const Leaf earlier(&leafElement);
+  EXPECT_THROW(Branch(parsed.root()), OrbException);
+  EXPECT_EQ(wrapperOn<Leaf>(leafElement), &earlier);
+
   const Parsed passed("<tolerant><other/><leaf/></tolerant>");
   const Tolerant tolerant(passed.root());
   EXPECT_EQ(tolerant.children.count<Leaf>(), 1U);
   EXPECT_EQ(childrenOf(passed.root()), "other leaf");
+}
+
+TEST(Loading, OfTheSameChildrenTwiceIsOneLoad) {
+  const Parsed parsed("<twice><leaf/><branch><leaf/></branch></twice>");
+  auto& leafElement = static_cast<DOMElement&>(*parsed.root()->getFirstChild());
+  {
+    const Twice twice(parsed.root());
+    EXPECT_NE(twice.first.first<Leaf>(), twice.second.first<Leaf>());
+    EXPECT_EQ(wrapperOn<Leaf>(leafElement), twice.second.first<Leaf>()) << "the later wrapper is the one that is found";
+    EXPECT_EQ(alive, 5);
+  }
+  EXPECT_EQ(alive, 0);
+  leafElement.setUserData(u"leaf", nullptr, nullptr);
+  parsed.root()->appendChild(parsed.document()->createElement(u"note"));
+  EXPECT_THROW(Twice(parsed.root()), OrbException);
+  EXPECT_EQ(alive, 0);
+  EXPECT_EQ(wrapperOn<Leaf>(leafElement), nullptr);
 }
 
 TEST(Loading, HoldsTenThousandLevelsAndRefusesWhatIsTooDeep) {

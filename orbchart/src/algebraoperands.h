@@ -12,5 +12,8 @@
 namespace orbchart {
 
 using AlgebraOperands = FamilyList<OrbVariableReference, OrbUnity, OrbBlend, OrbCross, OrbDot, OrbNest>;
+/// The same under the operators that take the ids off the operators which they remove.
+using AlgebraOperandsWithoutIds =
+    FamilyList<OrbVariableReference, OrbUnity, StripsIds<OrbBlend>, StripsIds<OrbCross>, OrbDot, StripsIds<OrbNest>>;
 
 } // namespace orbchart

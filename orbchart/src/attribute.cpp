@@ -2,7 +2,6 @@
 #include "attribute.h"
 
 #include "chartstring.h"
-#include "orbuni.h"
 
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/util/XMLString.hpp>
@@ -11,44 +10,14 @@ using xercesc::XMLString;
 
 namespace orbchart {
 
-bool isPresent(const OrbBaseElement& wrapper, const XMLCh* name) { return *wrapper.GetAttribute(name) != 0; }
-
-void removeAttribute(OrbBaseElement& wrapper, const XMLCh* name) { wrapper.getImplementation()->removeAttribute(name); }
-
-bool readBoolean(const OrbBaseElement& wrapper, const XMLCh* name) {
-  return XMLString::equals(wrapper.GetAttribute(name), OrbUni::_true);
-}
-
-bool readBooleanUnlessFalse(const OrbBaseElement& wrapper, const XMLCh* name) {
-  return !XMLString::equals(wrapper.GetAttribute(name), OrbUni::_false);
-}
-
-void writeBoolean(OrbBaseElement& wrapper, const XMLCh* name, bool value) {
-  wrapper.SetAttribute(name, value ? OrbUni::_true : OrbUni::_false);
-}
-
-int readInteger(const OrbBaseElement& wrapper, const XMLCh* name) {
-  return static_cast<int>(readUnsigned(wrapper, name));
-}
-
-void writeInteger(OrbBaseElement& wrapper, const XMLCh* name, int value) {
-  ChartString text;
-  text.assignInteger(value);
-  wrapper.SetAttribute(name, text.xc_str());
-}
-
 unsigned int readUnsigned(const OrbBaseElement& wrapper, const XMLCh* name) {
   return ChartString(wrapper.GetAttribute(name)).convertToInteger();
 }
 
-void writeUnsigned(OrbBaseElement& wrapper, const XMLCh* name, unsigned int value) {
+void writeInteger(OrbBaseElement& wrapper, const XMLCh* name, long value) {
   ChartString text;
   text.assignInteger(value);
   wrapper.SetAttribute(name, text.xc_str());
-}
-
-double readDouble(const OrbBaseElement& wrapper, const XMLCh* name) {
-  return ChartString(wrapper.GetAttribute(name)).convertToDouble();
 }
 
 void writeDouble(OrbBaseElement& wrapper, const XMLCh* name, double value) {
@@ -57,15 +26,35 @@ void writeDouble(OrbBaseElement& wrapper, const XMLCh* name, double value) {
   wrapper.SetAttribute(name, text.xc_str());
 }
 
-void writeId(OrbBaseElement& wrapper, const XMLCh* id) {
-  if (wrapper.getImplementation()->getAttributeNode(OrbUni::_id) == nullptr) {
+bool Attribute::isPresent(const OrbBaseElement& wrapper) const { return *wrapper.GetAttribute(name) != 0; }
+
+void Attribute::remove(OrbBaseElement& wrapper) const { wrapper.getImplementation()->removeAttribute(name); }
+
+void Id::set(OrbBaseElement& wrapper, const XMLCh* id) const {
+  if (wrapper.getImplementation()->getAttributeNode(name) == nullptr) {
     wrapper.addID(id);
     return;
   }
   // The id may be the text of the attribute that goes.
   const ChartString kept(id);
-  removeAttribute(wrapper, OrbUni::_id);
+  remove(wrapper);
   wrapper.addID(kept.xc_str());
+}
+
+bool Boolean::get(const OrbBaseElement& wrapper) const {
+  return XMLString::equals(wrapper.GetAttribute(name), OrbUni::_true);
+}
+
+void Boolean::set(OrbBaseElement& wrapper, bool value) const {
+  wrapper.SetAttribute(name, value ? OrbUni::_true : OrbUni::_false);
+}
+
+bool TrueUnlessFalse::get(const OrbBaseElement& wrapper) const {
+  return !XMLString::equals(wrapper.GetAttribute(name), OrbUni::_false);
+}
+
+double Double::get(const OrbBaseElement& wrapper) const {
+  return ChartString(wrapper.GetAttribute(name)).convertToDouble();
 }
 
 } // namespace orbchart

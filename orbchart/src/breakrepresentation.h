@@ -2,16 +2,18 @@
 #pragma once
 
 #include "keyword.h"
-#include "orbuni.h"
 
 namespace orbchart {
 
-/// The keywords of an element's own enumeration.
+/// The attribute, for the enumeration of each element.
 template <class Element>
-inline constexpr Keyword<typename Element::ENUM_breakRepresentation> breakRepresentations[] = {
-    {Element::breakRepresentation_gap, OrbUni::_gap},
-    {Element::breakRepresentation_interpolate, Element::_UTF_breakRepresentation_interpolate},
-    {Element::breakRepresentation_wings, OrbUni::_wings},
-};
+inline constexpr Keywords breakRepresentationOf{
+    Element::_UTF_breakRepresentation,
+    Element::breakRepresentation_unset,
+    {
+        {Element::breakRepresentation_gap, OrbUni::_gap},
+        {Element::breakRepresentation_interpolate, Element::_UTF_breakRepresentation_interpolate},
+        {Element::breakRepresentation_wings, OrbUni::_wings},
+    }};
 
 } // namespace orbchart

@@ -18,68 +18,76 @@ using xercesc::DOMElement;
 
 namespace {
 
+constexpr Id id;
+constexpr VariableReference variable{OrbUni::_variable};
+constexpr Unsigned dimension{OrbUni::_dimension};
+constexpr ReferenceTo<OrbBaseElement, OrbIntervalDomain, OrbCategoricalDomain> domain{OrbUni::_domain};
+constexpr Boolean clamp{CTAesthetic::_UTF_clamp};
+constexpr Boolean split{OrbUni::_split};
+constexpr ReferenceTo<OrbBaseElement, OrbCategoricalDomainModifier, OrbIntervalDomainModifier> domainModifier{
+    CTAesthetic::_UTF_domainModifier};
+
+using Attributes = AttributeList<id, variable, dimension, domain, clamp, split, domainModifier>;
+
 using AfterScale = FamilyList<OrbSummaryStatistic>;
+
+constexpr OnlyOne oneScale{"Scale", "statistic"};
+
+using Families = ChildFamilies<FamilyList<Limited<OrbScale, oneScale>, OrbSummaryStatistic>, Unknown::passes>;
 
 } // namespace
 
-struct CTAesthetic::Children : ChildFamilies<FamilyList<OrbScale, OrbSummaryStatistic>> {};
+template <> const ElementDescription& orbchart::descriptionOf<CTAesthetic>() {
+  return elementDescription<CTAesthetic, Attributes, Families>;
+}
+
+struct CTAesthetic::Children : Families {};
 
 CTAesthetic::CTAesthetic(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   // A concrete aesthetic may have children of its own beside the base's.
-  children_->load(*this, Unknown::passes);
+  children_->load(*this);
 }
 CTAesthetic::CTAesthetic(DOMElement* element, WithoutChildren) : OrbBaseElement(element), children_(new Children) {}
 CTAesthetic::~CTAesthetic() = default;
 
-const XMLCh* CTAesthetic::getId() const { return GetAttribute(OrbUni::_id); }
-void CTAesthetic::setId(const XMLCh* id) { writeId(*this, id); }
-void CTAesthetic::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* CTAesthetic::getId() const { return id.get(*this); }
+void CTAesthetic::setId(const XMLCh* value) { id.set(*this, value); }
+void CTAesthetic::removeId() { id.remove(*this); }
 
-CTVariableType* CTAesthetic::getVariable() const { return readVariable(*this, OrbUni::_variable); }
-OrbSourceVariable* CTAesthetic::getSourceVariable() const {
-  return readReference<OrbSourceVariable>(*this, OrbUni::_variable);
-}
-void CTAesthetic::setVariable(const CTVariableType& variable) { writeReference(*this, OrbUni::_variable, variable); }
-void CTAesthetic::setVariable(const OrbDerivedVariable& variable) {
-  writeReference(*this, OrbUni::_variable, variable);
-}
-void CTAesthetic::removeVariable() { removeAttribute(*this, OrbUni::_variable); }
+CTVariableType* CTAesthetic::getVariable() const { return variable.get(*this); }
+OrbSourceVariable* CTAesthetic::getSourceVariable() const { return variable.getAs<OrbSourceVariable>(*this); }
+void CTAesthetic::setVariable(const CTVariableType& target) { variable.set(*this, target); }
+void CTAesthetic::setVariable(const OrbDerivedVariable& target) { variable.set(*this, target); }
+void CTAesthetic::removeVariable() { variable.remove(*this); }
 
-unsigned int CTAesthetic::getDimension() const { return readUnsigned(*this, OrbUni::_dimension); }
-void CTAesthetic::setDimension(unsigned int dimension) { writeUnsigned(*this, OrbUni::_dimension, dimension); }
-bool CTAesthetic::isDimensionPresent() const { return isPresent(*this, OrbUni::_dimension); }
-void CTAesthetic::removeDimension() { removeAttribute(*this, OrbUni::_dimension); }
+unsigned int CTAesthetic::getDimension() const { return dimension.get(*this); }
+void CTAesthetic::setDimension(unsigned int value) { dimension.set(*this, value); }
+bool CTAesthetic::isDimensionPresent() const { return dimension.isPresent(*this); }
+void CTAesthetic::removeDimension() { dimension.remove(*this); }
 
-OrbBaseElement* CTAesthetic::getDomain() const {
-  return readReferenceTo<OrbBaseElement, OrbIntervalDomain, OrbCategoricalDomain>(*this, OrbUni::_domain);
-}
-void CTAesthetic::setDomain(const OrbIntervalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
-void CTAesthetic::setDomain(const OrbCategoricalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
-bool CTAesthetic::isDomainPresent() const { return isPresent(*this, OrbUni::_domain); }
-void CTAesthetic::removeDomain() { removeAttribute(*this, OrbUni::_domain); }
+OrbBaseElement* CTAesthetic::getDomain() const { return domain.get(*this); }
+void CTAesthetic::setDomain(const OrbIntervalDomain& target) { domain.set(*this, target); }
+void CTAesthetic::setDomain(const OrbCategoricalDomain& target) { domain.set(*this, target); }
+bool CTAesthetic::isDomainPresent() const { return domain.isPresent(*this); }
+void CTAesthetic::removeDomain() { domain.remove(*this); }
 
-bool CTAesthetic::getClamp() const { return readBoolean(*this, _UTF_clamp); }
-void CTAesthetic::setClamp(bool clamp) { writeBoolean(*this, _UTF_clamp, clamp); }
-bool CTAesthetic::isClampPresent() const { return isPresent(*this, _UTF_clamp); }
-void CTAesthetic::removeClamp() { removeAttribute(*this, _UTF_clamp); }
+bool CTAesthetic::getClamp() const { return clamp.get(*this); }
+void CTAesthetic::setClamp(bool value) { clamp.set(*this, value); }
+bool CTAesthetic::isClampPresent() const { return clamp.isPresent(*this); }
+void CTAesthetic::removeClamp() { clamp.remove(*this); }
 
-bool CTAesthetic::getSplit() const { return readBoolean(*this, OrbUni::_split); }
-void CTAesthetic::setSplit(bool split) { writeBoolean(*this, OrbUni::_split, split); }
-bool CTAesthetic::isSplitPresent() const { return isPresent(*this, OrbUni::_split); }
-void CTAesthetic::removeSplit() { removeAttribute(*this, OrbUni::_split); }
+bool CTAesthetic::getSplit() const { return split.get(*this); }
+void CTAesthetic::setSplit(bool value) { split.set(*this, value); }
+bool CTAesthetic::isSplitPresent() const { return split.isPresent(*this); }
+void CTAesthetic::removeSplit() { split.remove(*this); }
 
-OrbBaseElement* CTAesthetic::getDomainModifier() const {
-  return readReferenceTo<OrbBaseElement, OrbCategoricalDomainModifier, OrbIntervalDomainModifier>(*this,
-                                                                                                  _UTF_domainModifier);
-}
-void CTAesthetic::setDomainModifier(const CTModifier& modifier) {
-  writeReferenceAmong<OrbCategoricalDomainModifier, OrbIntervalDomainModifier>(*this, _UTF_domainModifier, modifier);
-}
-bool CTAesthetic::isDomainModifierPresent() const { return isPresent(*this, _UTF_domainModifier); }
-void CTAesthetic::removeDomainModifier() { removeAttribute(*this, _UTF_domainModifier); }
+OrbBaseElement* CTAesthetic::getDomainModifier() const { return domainModifier.get(*this); }
+void CTAesthetic::setDomainModifier(const CTModifier& target) { domainModifier.setAmong(*this, target); }
+bool CTAesthetic::isDomainModifierPresent() const { return domainModifier.isPresent(*this); }
+void CTAesthetic::removeDomainModifier() { domainModifier.remove(*this); }
 
 OrbScale* CTAesthetic::addScale(OrbScale::ENUM_method method) {
-  return children_->add<OrbScale>(*this, OnlyOne("Scale", "statistic"), AfterScale{}, method);
+  return children_->add<OrbScale>(*this, AfterScale{}, method);
 }
 OrbScale* CTAesthetic::getScale() const { return children_->first<OrbScale>(); }
 unsigned int CTAesthetic::removeScales() { return children_->removeAll<OrbScale>(*this); }

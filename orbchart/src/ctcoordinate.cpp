@@ -8,23 +8,32 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Id id;
+constexpr VariableReference variable{OrbUni::_variable};
+
+using Attributes = AttributeList<id, variable>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<CTCoordinate>() {
+  return elementDescription<CTCoordinate, Attributes>;
+}
+
 CTCoordinate::CTCoordinate(xercesc::DOMElement* element) : OrbBaseElement(element) {}
 CTCoordinate::~CTCoordinate() = default;
 
-const XMLCh* CTCoordinate::getId() const { return GetAttribute(OrbUni::_id); }
-void CTCoordinate::setId(const XMLCh* id) { writeId(*this, id); }
-void CTCoordinate::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* CTCoordinate::getId() const { return id.get(*this); }
+void CTCoordinate::setId(const XMLCh* value) { id.set(*this, value); }
+void CTCoordinate::removeId() { id.remove(*this); }
 
-CTVariableType* CTCoordinate::getVariable() const { return readVariable(*this, OrbUni::_variable); }
-void CTCoordinate::setVariable(const CTVariableType& variable) { writeReference(*this, OrbUni::_variable, variable); }
-void CTCoordinate::removeVariable() { removeAttribute(*this, OrbUni::_variable); }
+CTVariableType* CTCoordinate::getVariable() const { return variable.get(*this); }
+void CTCoordinate::setVariable(const CTVariableType& target) { variable.set(*this, target); }
+void CTCoordinate::removeVariable() { variable.remove(*this); }
 
-OrbSourceVariable* CTCoordinate::getSourceVariable() const {
-  return readReference<OrbSourceVariable>(*this, OrbUni::_variable);
-}
-OrbDerivedVariable* CTCoordinate::getDerivedVariable() const {
-  return readReference<OrbDerivedVariable>(*this, OrbUni::_variable);
-}
+OrbSourceVariable* CTCoordinate::getSourceVariable() const { return variable.getAs<OrbSourceVariable>(*this); }
+OrbDerivedVariable* CTCoordinate::getDerivedVariable() const { return variable.getAs<OrbDerivedVariable>(*this); }
 OrbExpressionVariable* CTCoordinate::getExpressionVariable() const {
-  return readReference<OrbExpressionVariable>(*this, OrbUni::_variable);
+  return variable.getAs<OrbExpressionVariable>(*this);
 }

@@ -41,40 +41,62 @@ using xercesc::DOMElement;
 
 namespace {
 
-constexpr Keyword<CTElementType::ENUM_labelCollisionHandling> labelCollisionHandlings[] = {
-    {CTElementType::labelCollisionHandling_none, OrbUni::_none},
-    {CTElementType::labelCollisionHandling_normal, OrbUni::_normal},
-    {CTElementType::labelCollisionHandling_fast, OrbUni::_fast},
-    {CTElementType::labelCollisionHandling_quality, OrbUni::_quality},
-    {CTElementType::labelCollisionHandling_extreme, OrbUni::_extreme},
-    {CTElementType::labelCollisionHandling_basic, OrbUni::_basic},
-    {CTElementType::labelCollisionHandling_outside, OrbUni::_outside},
-    {CTElementType::labelCollisionHandling_inside, OrbUni::_inside},
-};
+constexpr Id id;
+constexpr Reference<OrbStyle> style{OrbUni::_style};
+constexpr Text name{OrbUni::_name};
+constexpr Boolean dot{OrbUni::_dot};
+constexpr Keywords labelCollisionHandling{OrbUni::_labelCollisionHandling,
+                                          CTElementType::labelCollisionHandling_unset,
+                                          {
+                                              {CTElementType::labelCollisionHandling_none, OrbUni::_none},
+                                              {CTElementType::labelCollisionHandling_normal, OrbUni::_normal},
+                                              {CTElementType::labelCollisionHandling_fast, OrbUni::_fast},
+                                              {CTElementType::labelCollisionHandling_quality, OrbUni::_quality},
+                                              {CTElementType::labelCollisionHandling_extreme, OrbUni::_extreme},
+                                              {CTElementType::labelCollisionHandling_basic, OrbUni::_basic},
+                                              {CTElementType::labelCollisionHandling_outside, OrbUni::_outside},
+                                              {CTElementType::labelCollisionHandling_inside, OrbUni::_inside},
+                                          }};
+constexpr Boolean showCollidingLabels{OrbUni::_showCollidingLabels};
+constexpr Reference<OrbCoordinates> coordinates{OrbUni::_coordinates};
+constexpr Keywords positionModifier{
+    OrbUni::_positionModifier,
+    CTElementType::positionModifier_unset,
+    {
+        {CTElementType::positionModifier_none, OrbUni::_none},
+        {CTElementType::positionModifier_center, OrbUni::_center},
+        {CTElementType::positionModifier_stack, OrbUni::_stack},
+        {CTElementType::positionModifier_stackInterpolating, OrbUni::_stackInterpolating},
+        {CTElementType::positionModifier_setMissingsToZero, OrbUni::_setMissingsToZero},
+        {CTElementType::positionModifier_minusIntersection, OrbUni::_minusIntersection},
+        {CTElementType::positionModifier_dodge, OrbUni::_dodge},
+        {CTElementType::positionModifier_pile, CTElementType::_UTF_positionModifier_pile},
+        {CTElementType::positionModifier_jitterJointUniform, CTElementType::_UTF_positionModifier_jitterJointUniform},
+        {CTElementType::positionModifier_jitterConditionalUniform,
+         CTElementType::_UTF_positionModifier_jitterConditionalUniform},
+        {CTElementType::positionModifier_jitterJointNormal, CTElementType::_UTF_positionModifier_jitterJointNormal},
+        {CTElementType::positionModifier_jitterConditionalNormal,
+         CTElementType::_UTF_positionModifier_jitterConditionalNormal},
+        {CTElementType::positionModifier_centerStacked, CTElementType::_UTF_positionModifier_centerStacked},
+    }};
+constexpr Double xLocation{OrbUni::_xLocation};
+constexpr Double yLocation{OrbUni::_yLocation};
+constexpr Double zLocation{OrbUni::_zLocation};
+constexpr Integer zOrder{OrbUni::_zOrder};
+constexpr Keywords clip{OrbUni::_clip,
+                        AbsentReadsAs(CTElementType::clip_none),
+                        {
+                            {CTElementType::clip_none, OrbUni::_none},
+                            {CTElementType::clip_cell, CTElementType::_UTF_clip_cell},
+                            {CTElementType::clip_domain, OrbUni::_domain},
+                        }};
 
-constexpr Keyword<CTElementType::ENUM_positionModifier> positionModifiers[] = {
-    {CTElementType::positionModifier_none, OrbUni::_none},
-    {CTElementType::positionModifier_center, OrbUni::_center},
-    {CTElementType::positionModifier_stack, OrbUni::_stack},
-    {CTElementType::positionModifier_stackInterpolating, OrbUni::_stackInterpolating},
-    {CTElementType::positionModifier_setMissingsToZero, OrbUni::_setMissingsToZero},
-    {CTElementType::positionModifier_minusIntersection, OrbUni::_minusIntersection},
-    {CTElementType::positionModifier_dodge, OrbUni::_dodge},
-    {CTElementType::positionModifier_pile, CTElementType::_UTF_positionModifier_pile},
-    {CTElementType::positionModifier_jitterJointUniform, CTElementType::_UTF_positionModifier_jitterJointUniform},
-    {CTElementType::positionModifier_jitterConditionalUniform,
-     CTElementType::_UTF_positionModifier_jitterConditionalUniform},
-    {CTElementType::positionModifier_jitterJointNormal, CTElementType::_UTF_positionModifier_jitterJointNormal},
-    {CTElementType::positionModifier_jitterConditionalNormal,
-     CTElementType::_UTF_positionModifier_jitterConditionalNormal},
-    {CTElementType::positionModifier_centerStacked, CTElementType::_UTF_positionModifier_centerStacked},
-};
+using Attributes = AttributeList<id, style, name, dot, labelCollisionHandling, showCollidingLabels, coordinates,
+                                 positionModifier, xLocation, yLocation, zLocation, zOrder, clip>;
 
-constexpr Keyword<CTElementType::ENUM_clip> clips[] = {
-    {CTElementType::clip_none, OrbUni::_none},
-    {CTElementType::clip_cell, CTElementType::_UTF_clip_cell},
-    {CTElementType::clip_domain, OrbUni::_domain},
-};
+constexpr OnlyOne oneX{"X", "ElementType"};
+constexpr OnlyOne oneY{"Y", "ElementType"};
+constexpr OnlyOne oneZ{"Z", "ElementType"};
 
 // The families by group, in document order. A new family takes its place in its group, and with it in the record, in
 // the loader and among the followers of the groups before it.
@@ -83,7 +105,7 @@ using Statistics = FamilyList<OrbBinStatistic, OrbAggregateStatistic, OrbCollect
                               OrbEvaluateStatistic, OrbWhen>;
 using Aesthetics = FamilyList<OrbStyleBy, OrbDash, OrbShape, OrbSize, OrbRotation, OrbColor, OrbOffset, OrbPattern,
                               OrbTransparency, OrbSplit, OrbColorComponent>;
-using Positions = FamilyList<OrbX, OrbY, OrbZ, OrbPosition>;
+using Positions = FamilyList<Limited<OrbX, oneX>, Limited<OrbY, oneY>, Limited<OrbZ, oneZ>, OrbPosition>;
 
 using AfterAesthetics = Positions;
 using AfterStatistics = Joined<Aesthetics, AfterAesthetics>;
@@ -92,9 +114,15 @@ using AfterHead = Joined<FamilyList<OrbAttach>, Statistics, AfterStatistics>;
 // They go last, and no later add looks for them, save that what belongs to the head goes before the first attachment.
 using Unplaced = FamilyList<OrbAttach, OrbVisibility, OrbImage, OrbReplicate>;
 
+using Families = ChildFamilies<Joined<Head, Statistics, Aesthetics, Positions, Unplaced>>;
+
 } // namespace
 
-struct CTElementType::Children : ChildFamilies<Joined<Head, Statistics, Aesthetics, Positions, Unplaced>> {};
+template <> const ElementDescription& orbchart::descriptionOf<CTElementType>() {
+  return elementDescription<CTElementType, Attributes, Families>;
+}
+
+struct CTElementType::Children : Families {};
 
 CTElementType::CTElementType(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -102,74 +130,62 @@ CTElementType::CTElementType(DOMElement* element) : OrbBaseElement(element), chi
 CTElementType::CTElementType(DOMElement* element, const XMLCh* id) : CTElementType(element) { setId(id); }
 CTElementType::~CTElementType() = default;
 
-const XMLCh* CTElementType::getId() const { return GetAttribute(OrbUni::_id); }
-void CTElementType::setId(const XMLCh* id) { writeId(*this, id); }
-void CTElementType::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* CTElementType::getId() const { return id.get(*this); }
+void CTElementType::setId(const XMLCh* value) { id.set(*this, value); }
+void CTElementType::removeId() { id.remove(*this); }
 
-OrbStyle* CTElementType::getStyle() const { return readReference<OrbStyle>(*this, OrbUni::_style); }
-void CTElementType::setStyle(const OrbStyle& style) { writeReference(*this, OrbUni::_style, style); }
-void CTElementType::removeStyle() { removeAttribute(*this, OrbUni::_style); }
+OrbStyle* CTElementType::getStyle() const { return style.get(*this); }
+void CTElementType::setStyle(const OrbStyle& target) { style.set(*this, target); }
+void CTElementType::removeStyle() { style.remove(*this); }
 
-const XMLCh* CTElementType::getName() const { return GetAttribute(OrbUni::_name); }
-void CTElementType::setName(const XMLCh* name) { SetAttribute(OrbUni::_name, name); }
-void CTElementType::removeName() { removeAttribute(*this, OrbUni::_name); }
+const XMLCh* CTElementType::getName() const { return name.get(*this); }
+void CTElementType::setName(const XMLCh* value) { name.set(*this, value); }
+void CTElementType::removeName() { name.remove(*this); }
 
-bool CTElementType::getDot() const { return readBoolean(*this, OrbUni::_dot); }
-void CTElementType::setDot(bool dot) { writeBoolean(*this, OrbUni::_dot, dot); }
-void CTElementType::removeDot() { removeAttribute(*this, OrbUni::_dot); }
+bool CTElementType::getDot() const { return dot.get(*this); }
+void CTElementType::setDot(bool value) { dot.set(*this, value); }
+void CTElementType::removeDot() { dot.remove(*this); }
 
 CTElementType::ENUM_labelCollisionHandling CTElementType::getLabelCollisionHandling() const {
-  return readKeyword(*this, OrbUni::_labelCollisionHandling, labelCollisionHandlings, labelCollisionHandling_unset);
+  return labelCollisionHandling.get(*this);
 }
-void CTElementType::setLabelCollisionHandling(ENUM_labelCollisionHandling labelCollisionHandling) {
-  writeKeyword(*this, OrbUni::_labelCollisionHandling, labelCollisionHandlings, labelCollisionHandling);
+void CTElementType::setLabelCollisionHandling(ENUM_labelCollisionHandling value) {
+  labelCollisionHandling.set(*this, value);
 }
-bool CTElementType::isLabelCollisionHandlingPresent() const {
-  return isPresent(*this, OrbUni::_labelCollisionHandling);
-}
-void CTElementType::removeLabelCollisionHandling() { removeAttribute(*this, OrbUni::_labelCollisionHandling); }
+bool CTElementType::isLabelCollisionHandlingPresent() const { return labelCollisionHandling.isPresent(*this); }
+void CTElementType::removeLabelCollisionHandling() { labelCollisionHandling.remove(*this); }
 
-bool CTElementType::getShowCollidingLabels() const { return readBoolean(*this, OrbUni::_showCollidingLabels); }
-void CTElementType::setShowCollidingLabels(bool showCollidingLabels) {
-  writeBoolean(*this, OrbUni::_showCollidingLabels, showCollidingLabels);
-}
-void CTElementType::removeShowCollidingLabels() { removeAttribute(*this, OrbUni::_showCollidingLabels); }
+bool CTElementType::getShowCollidingLabels() const { return showCollidingLabels.get(*this); }
+void CTElementType::setShowCollidingLabels(bool value) { showCollidingLabels.set(*this, value); }
+void CTElementType::removeShowCollidingLabels() { showCollidingLabels.remove(*this); }
 
-OrbCoordinates* CTElementType::getCoordinates() const {
-  return readReference<OrbCoordinates>(*this, OrbUni::_coordinates);
-}
-void CTElementType::setCoordinates(const OrbCoordinates& coordinates) {
-  writeReference(*this, OrbUni::_coordinates, coordinates);
-}
-void CTElementType::removeCoordinates() { removeAttribute(*this, OrbUni::_coordinates); }
+OrbCoordinates* CTElementType::getCoordinates() const { return coordinates.get(*this); }
+void CTElementType::setCoordinates(const OrbCoordinates& target) { coordinates.set(*this, target); }
+void CTElementType::removeCoordinates() { coordinates.remove(*this); }
 
-CTElementType::ENUM_positionModifier CTElementType::getPositionModifier() const {
-  return readKeyword(*this, OrbUni::_positionModifier, positionModifiers, positionModifier_unset);
-}
-void CTElementType::setPositionModifier(ENUM_positionModifier positionModifier) {
-  writeKeyword(*this, OrbUni::_positionModifier, positionModifiers, positionModifier);
-}
-void CTElementType::removePositionModifier() { removeAttribute(*this, OrbUni::_positionModifier); }
+CTElementType::ENUM_positionModifier CTElementType::getPositionModifier() const { return positionModifier.get(*this); }
+void CTElementType::setPositionModifier(ENUM_positionModifier value) { positionModifier.set(*this, value); }
+void CTElementType::removePositionModifier() { positionModifier.remove(*this); }
 
-double CTElementType::getXLocation() const { return readDouble(*this, OrbUni::_xLocation); }
-void CTElementType::setXLocation(double xLocation) { writeDouble(*this, OrbUni::_xLocation, xLocation); }
-void CTElementType::removeXLocation() { removeAttribute(*this, OrbUni::_xLocation); }
+double CTElementType::getXLocation() const { return xLocation.get(*this); }
+void CTElementType::setXLocation(double value) { xLocation.set(*this, value); }
+void CTElementType::removeXLocation() { xLocation.remove(*this); }
 
-double CTElementType::getYLocation() const { return readDouble(*this, OrbUni::_yLocation); }
-void CTElementType::setYLocation(double yLocation) { writeDouble(*this, OrbUni::_yLocation, yLocation); }
-void CTElementType::removeYLocation() { removeAttribute(*this, OrbUni::_yLocation); }
+double CTElementType::getYLocation() const { return yLocation.get(*this); }
+void CTElementType::setYLocation(double value) { yLocation.set(*this, value); }
+void CTElementType::removeYLocation() { yLocation.remove(*this); }
 
-double CTElementType::getZLocation() const { return readDouble(*this, OrbUni::_zLocation); }
-void CTElementType::setZLocation(double zLocation) { writeDouble(*this, OrbUni::_zLocation, zLocation); }
-void CTElementType::removeZLocation() { removeAttribute(*this, OrbUni::_zLocation); }
+double CTElementType::getZLocation() const { return zLocation.get(*this); }
+void CTElementType::setZLocation(double value) { zLocation.set(*this, value); }
+void CTElementType::removeZLocation() { zLocation.remove(*this); }
 
-int CTElementType::getZOrder() const { return readInteger(*this, OrbUni::_zOrder); }
-void CTElementType::setZOrder(int zOrder) { writeInteger(*this, OrbUni::_zOrder, zOrder); }
-void CTElementType::removeZOrder() { removeAttribute(*this, OrbUni::_zOrder); }
+int CTElementType::getZOrder() const { return zOrder.get(*this); }
+void CTElementType::setZOrder(int value) { zOrder.set(*this, value); }
+void CTElementType::removeZOrder() { zOrder.remove(*this); }
 
-CTElementType::ENUM_clip CTElementType::getClip() const { return readKeyword(*this, OrbUni::_clip, clips, clip_none); }
-void CTElementType::setClip(ENUM_clip clip) { writeKeyword(*this, OrbUni::_clip, clips, clip); }
-void CTElementType::removeClip() { removeAttribute(*this, OrbUni::_clip); }
+CTElementType::ENUM_clip CTElementType::getClip() const { return clip.get(*this); }
+void CTElementType::setClip(ENUM_clip value) { clip.set(*this, value); }
+void CTElementType::removeClip() { clip.remove(*this); }
 
 OrbConditionalStyle* CTElementType::addConditionalStyle(const XMLCh* when, const OrbStyle& style) {
   return children_->add<OrbConditionalStyle>(*this, AfterHead{}, when, style);
@@ -242,15 +258,15 @@ OrbPosition* CTElementType::addPosition() { return children_->add<OrbPosition>(*
 std::vector<OrbPosition*> CTElementType::getPositions() const { return children_->all<OrbPosition>(); }
 unsigned int CTElementType::removePositions() { return children_->removeAll<OrbPosition>(*this); }
 
-OrbX* CTElementType::addX() { return children_->add<OrbX>(*this, OnlyOne("X", "ElementType"), atEnd); }
+OrbX* CTElementType::addX() { return children_->add<OrbX>(*this, atEnd); }
 OrbX* CTElementType::getX() const { return children_->first<OrbX>(); }
 unsigned int CTElementType::removeXs() { return children_->removeAll<OrbX>(*this); }
 
-OrbY* CTElementType::addY() { return children_->add<OrbY>(*this, OnlyOne("Y", "ElementType"), atEnd); }
+OrbY* CTElementType::addY() { return children_->add<OrbY>(*this, atEnd); }
 OrbY* CTElementType::getY() const { return children_->first<OrbY>(); }
 unsigned int CTElementType::removeYs() { return children_->removeAll<OrbY>(*this); }
 
-OrbZ* CTElementType::addZ() { return children_->add<OrbZ>(*this, OnlyOne("Z", "ElementType"), atEnd); }
+OrbZ* CTElementType::addZ() { return children_->add<OrbZ>(*this, atEnd); }
 OrbZ* CTElementType::getZ() const { return children_->first<OrbZ>(); }
 unsigned int CTElementType::removeZs() { return children_->removeAll<OrbZ>(*this); }
 

@@ -8,7 +8,17 @@
 
 using namespace orbchart;
 
-struct CTModifier::Children : ChildFamilies<FamilyList<OrbVariableReference, OrbCategories2, OrbRange>> {};
+namespace {
+
+using Families = ChildFamilies<FamilyList<OrbVariableReference, OrbCategories2, OrbRange>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<CTModifier>() {
+  return elementDescription<CTModifier, Families>;
+}
+
+struct CTModifier::Children : Families {};
 
 CTModifier::CTModifier(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);

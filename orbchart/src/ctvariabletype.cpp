@@ -17,108 +17,123 @@ using xercesc::DOMElement;
 
 namespace {
 
-constexpr Keyword<CTVariableType::ENUM_measurementLevel> measurementLevels[] = {
-    {CTVariableType::measurementLevel_nominal, CTVariableType::_UTF_measurementLevel_nominal},
-    {CTVariableType::measurementLevel_ordinal, CTVariableType::_UTF_measurementLevel_ordinal},
-    {CTVariableType::measurementLevel_interval, OrbUni::_interval},
-    {CTVariableType::measurementLevel_ratio, CTVariableType::_UTF_measurementLevel_ratio},
-};
+constexpr Id id;
+constexpr Text label{OrbUni::_label};
+constexpr Text shortLabel{OrbUni::_shortLabel};
+constexpr Text description{OrbUni::_description};
+constexpr Text creator{OrbUni::_creator};
+constexpr AnyReference source{OrbUni::_source};
+constexpr ReferenceTo<OrbBaseElement, OrbIntervalDomain, OrbCategoricalDomain> domain{OrbUni::_domain};
+constexpr ModifierReference domainModifier{CTVariableType::_UTF_domainModifier};
+constexpr VariableReference dependsOn{CTVariableType::_UTF_dependsOn};
+// The getter looks under a key that no wrapper registers.
+constexpr Taking<CTVariableType, ReferenceTo<CTVariableType>> labelVariable{OrbUni::_labelVariable};
+constexpr Keywords measurementLevel{
+    CTVariableType::_UTF_measurementLevel,
+    CTVariableType::measurementLevel_unset,
+    {
+        {CTVariableType::measurementLevel_nominal, CTVariableType::_UTF_measurementLevel_nominal},
+        {CTVariableType::measurementLevel_ordinal, CTVariableType::_UTF_measurementLevel_ordinal},
+        {CTVariableType::measurementLevel_interval, OrbUni::_interval},
+        {CTVariableType::measurementLevel_ratio, CTVariableType::_UTF_measurementLevel_ratio},
+    }};
+constexpr Boolean categorical{OrbUni::_categorical};
+constexpr Boolean key{OrbUni::_key};
+constexpr Boolean weight{OrbUni::_weight};
+
+using Attributes = AttributeList<id, label, shortLabel, description, creator, source, domain, domainModifier, dependsOn,
+                                 labelVariable, measurementLevel, categorical, key, weight>;
 
 // What the language has after them has no class here.
 using AfterAggregations = FamilyList<>;
 
+constexpr OnlyOne oneAggregation{"Aggregation", "VariableType"};
+
+using Families = ChildFamilies<FamilyList<Limited<OrbAggregation, oneAggregation>>, Unknown::passes>;
+
 } // namespace
 
-struct CTVariableType::Children : ChildFamilies<FamilyList<OrbAggregation>> {};
+template <> const ElementDescription& orbchart::descriptionOf<CTVariableType>() {
+  return elementDescription<CTVariableType, Attributes, Families>;
+}
+
+struct CTVariableType::Children : Families {};
 
 CTVariableType::CTVariableType(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   // A concrete variable may have children of its own beside the base's.
-  children_->load(*this, Unknown::passes);
+  children_->load(*this);
 }
 CTVariableType::CTVariableType(DOMElement* element, const XMLCh* id) : CTVariableType(element) { setId(id); }
 CTVariableType::CTVariableType(DOMElement* element, WithoutChildren) :
     OrbBaseElement(element), children_(new Children) {}
 CTVariableType::~CTVariableType() = default;
 
-const XMLCh* CTVariableType::getId() const { return GetAttribute(OrbUni::_id); }
-void CTVariableType::setId(const XMLCh* id) { writeId(*this, id); }
-void CTVariableType::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* CTVariableType::getId() const { return id.get(*this); }
+void CTVariableType::setId(const XMLCh* value) { id.set(*this, value); }
+void CTVariableType::removeId() { id.remove(*this); }
 
-const XMLCh* CTVariableType::getLabel() const { return GetAttribute(OrbUni::_label); }
-void CTVariableType::setLabel(const XMLCh* label) { SetAttribute(OrbUni::_label, label); }
-void CTVariableType::removeLabel() { removeAttribute(*this, OrbUni::_label); }
+const XMLCh* CTVariableType::getLabel() const { return label.get(*this); }
+void CTVariableType::setLabel(const XMLCh* value) { label.set(*this, value); }
+void CTVariableType::removeLabel() { label.remove(*this); }
 
-const XMLCh* CTVariableType::getShortLabel() const { return GetAttribute(OrbUni::_shortLabel); }
-void CTVariableType::setShortLabel(const XMLCh* shortLabel) { SetAttribute(OrbUni::_shortLabel, shortLabel); }
-void CTVariableType::removeShortLabel() { removeAttribute(*this, OrbUni::_shortLabel); }
+const XMLCh* CTVariableType::getShortLabel() const { return shortLabel.get(*this); }
+void CTVariableType::setShortLabel(const XMLCh* value) { shortLabel.set(*this, value); }
+void CTVariableType::removeShortLabel() { shortLabel.remove(*this); }
 
-const XMLCh* CTVariableType::getDescription() const { return GetAttribute(OrbUni::_description); }
-void CTVariableType::setDescription(const XMLCh* description) { SetAttribute(OrbUni::_description, description); }
-void CTVariableType::removeDescription() { removeAttribute(*this, OrbUni::_description); }
+const XMLCh* CTVariableType::getDescription() const { return description.get(*this); }
+void CTVariableType::setDescription(const XMLCh* value) { description.set(*this, value); }
+void CTVariableType::removeDescription() { description.remove(*this); }
 
-const XMLCh* CTVariableType::getCreator() const { return GetAttribute(OrbUni::_creator); }
-void CTVariableType::setCreator(const XMLCh* creator) { SetAttribute(OrbUni::_creator, creator); }
-void CTVariableType::removeCreator() { removeAttribute(*this, OrbUni::_creator); }
+const XMLCh* CTVariableType::getCreator() const { return creator.get(*this); }
+void CTVariableType::setCreator(const XMLCh* value) { creator.set(*this, value); }
+void CTVariableType::removeCreator() { creator.remove(*this); }
 
-const XMLCh* CTVariableType::getSource() const { return GetAttribute(OrbUni::_source); }
-void CTVariableType::setSource(const OrbBaseElement& source) {
-  SetAttribute(OrbUni::_source, source.GetAttribute(OrbUni::_id));
-}
-void CTVariableType::removeSource() { removeAttribute(*this, OrbUni::_source); }
+// The getter gives the id itself.
+const XMLCh* CTVariableType::getSource() const { return GetAttribute(source.name); }
+void CTVariableType::setSource(const OrbBaseElement& target) { source.set(*this, target); }
+void CTVariableType::removeSource() { source.remove(*this); }
 
-OrbIntervalDomain* CTVariableType::getIntervalDomain() const {
-  return readReference<OrbIntervalDomain>(*this, OrbUni::_domain);
-}
-OrbCategoricalDomain* CTVariableType::getCategoricalDomain() const {
-  return readReference<OrbCategoricalDomain>(*this, OrbUni::_domain);
-}
-void CTVariableType::setDomain(const OrbIntervalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
-void CTVariableType::setDomain(const OrbCategoricalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
-void CTVariableType::removeDomain() { removeAttribute(*this, OrbUni::_domain); }
+OrbIntervalDomain* CTVariableType::getIntervalDomain() const { return domain.getAs<OrbIntervalDomain>(*this); }
+OrbCategoricalDomain* CTVariableType::getCategoricalDomain() const { return domain.getAs<OrbCategoricalDomain>(*this); }
+void CTVariableType::setDomain(const OrbIntervalDomain& target) { domain.set(*this, target); }
+void CTVariableType::setDomain(const OrbCategoricalDomain& target) { domain.set(*this, target); }
+void CTVariableType::removeDomain() { domain.remove(*this); }
 
-CTModifier* CTVariableType::getDomainModifier() const { return readModifier(*this, _UTF_domainModifier); }
-void CTVariableType::setDomainModifier(const CTModifier& modifier) {
-  writeModifier(*this, _UTF_domainModifier, modifier);
-}
-bool CTVariableType::isDomainModifierPresent() const { return isPresent(*this, _UTF_domainModifier); }
-void CTVariableType::removeDomainModifier() { removeAttribute(*this, _UTF_domainModifier); }
+CTModifier* CTVariableType::getDomainModifier() const { return domainModifier.get(*this); }
+void CTVariableType::setDomainModifier(const CTModifier& target) { domainModifier.setAmong(*this, target); }
+bool CTVariableType::isDomainModifierPresent() const { return domainModifier.isPresent(*this); }
+void CTVariableType::removeDomainModifier() { domainModifier.remove(*this); }
 
-CTVariableType* CTVariableType::getDependsOn() const { return readVariable(*this, _UTF_dependsOn); }
-void CTVariableType::setDependsOn(const CTVariableType& variable) { writeReference(*this, _UTF_dependsOn, variable); }
-bool CTVariableType::isDependsOnPresent() const { return isPresent(*this, _UTF_dependsOn); }
-void CTVariableType::removeDependsOn() { removeAttribute(*this, _UTF_dependsOn); }
+CTVariableType* CTVariableType::getDependsOn() const { return dependsOn.get(*this); }
+void CTVariableType::setDependsOn(const CTVariableType& target) { dependsOn.set(*this, target); }
+bool CTVariableType::isDependsOnPresent() const { return dependsOn.isPresent(*this); }
+void CTVariableType::removeDependsOn() { dependsOn.remove(*this); }
 
-// No wrapper registers the key `labelVariable`, under which the target would be looked up.
-CTVariableType* CTVariableType::getLabelVariable() const { return nullptr; }
-void CTVariableType::setLabelVariable(const CTVariableType& variable) {
-  writeReference(*this, OrbUni::_labelVariable, variable);
-}
-void CTVariableType::removeLabelVariable() { removeAttribute(*this, OrbUni::_labelVariable); }
+CTVariableType* CTVariableType::getLabelVariable() const { return labelVariable.get(*this); }
+void CTVariableType::setLabelVariable(const CTVariableType& target) { labelVariable.set(*this, target); }
+void CTVariableType::removeLabelVariable() { labelVariable.remove(*this); }
 
 CTVariableType::ENUM_measurementLevel CTVariableType::getMeasurementLevel() const {
-  return readKeyword(*this, _UTF_measurementLevel, measurementLevels, measurementLevel_unset);
+  return measurementLevel.get(*this);
 }
-void CTVariableType::setMeasurementLevel(ENUM_measurementLevel level) {
-  writeKeyword(*this, _UTF_measurementLevel, measurementLevels, level);
-}
-bool CTVariableType::isMeasurementLevelPresent() const { return isPresent(*this, _UTF_measurementLevel); }
-void CTVariableType::removeMeasurementLevel() { removeAttribute(*this, _UTF_measurementLevel); }
+void CTVariableType::setMeasurementLevel(ENUM_measurementLevel value) { measurementLevel.set(*this, value); }
+bool CTVariableType::isMeasurementLevelPresent() const { return measurementLevel.isPresent(*this); }
+void CTVariableType::removeMeasurementLevel() { measurementLevel.remove(*this); }
 
-bool CTVariableType::getCategorical() const { return readBoolean(*this, OrbUni::_categorical); }
-void CTVariableType::setCategorical(bool categorical) { writeBoolean(*this, OrbUni::_categorical, categorical); }
+bool CTVariableType::getCategorical() const { return categorical.get(*this); }
+void CTVariableType::setCategorical(bool value) { categorical.set(*this, value); }
 
-bool CTVariableType::getKey() const { return readBoolean(*this, OrbUni::_key); }
-void CTVariableType::setKey(bool key) { writeBoolean(*this, OrbUni::_key, key); }
-void CTVariableType::removeKey() { removeAttribute(*this, OrbUni::_key); }
+bool CTVariableType::getKey() const { return key.get(*this); }
+void CTVariableType::setKey(bool value) { key.set(*this, value); }
+void CTVariableType::removeKey() { key.remove(*this); }
 
-bool CTVariableType::getWeight() const { return readBoolean(*this, OrbUni::_weight); }
-void CTVariableType::setWeight(bool weight) { writeBoolean(*this, OrbUni::_weight, weight); }
-void CTVariableType::removeWeight() { removeAttribute(*this, OrbUni::_weight); }
+bool CTVariableType::getWeight() const { return weight.get(*this); }
+void CTVariableType::setWeight(bool value) { weight.set(*this, value); }
+void CTVariableType::removeWeight() { weight.remove(*this); }
 
 OrbAggregation* CTVariableType::addAggregation(const XMLCh* newCategory, const CTVariableType& sumVariable,
                                                double minFraction) {
-  return children_->add<OrbAggregation>(*this, OnlyOne("Aggregation", "VariableType"), AfterAggregations{}, newCategory,
-                                        sumVariable, minFraction);
+  return children_->add<OrbAggregation>(*this, AfterAggregations{}, newCategory, sumVariable, minFraction);
 }
 std::vector<OrbAggregation*> CTVariableType::getAggregations() const { return children_->all<OrbAggregation>(); }
 unsigned int CTVariableType::removeAggregations() { return children_->removeAll<OrbAggregation>(*this); }

@@ -1,6 +1,7 @@
 // The child families of a wrapper: what is the same for all classes.
 #include "family.h"
 
+#include "chartstring.h"
 #include "orbuni.h"
 #include "placement.h"
 #include "raise.h"
@@ -23,12 +24,18 @@ void end(const OrbBaseElement* wrapper, Registrations registrations) {
 
 } // namespace
 
-void OnlyOne::check(const OrbBaseElement& wrapper, std::size_t count) const {
+std::string wordFor(const XMLCh* elementName) {
+  std::string word = ChartString(elementName).toUTF8();
+  word.front() = static_cast<char>(word.front() - 'a' + 'A'); // the elements that have limits begin with a small letter
+  return word;
+}
+
+void OnlyOne::refuse(const OrbBaseElement& wrapper, std::size_t count) const {
   if (count != 0)
     wrapper.throwIfChildExists(count, 0, child, child, parent, file, line);
 }
 
-void AtMost::check(const OrbBaseElement& /*wrapper*/, std::size_t count) const {
+void AtMost::refuse(std::size_t count) const {
   if (count >= limit)
     raise(message, file, line);
 }
@@ -49,16 +56,19 @@ void discard(OrbBaseElement* wrapper, Registrations registrations) {
   waiting = nullptr;
 }
 
-void takeOut(const OrbBaseElement& parent, const OrbBaseElement& child, Ids ids) {
+void takeOut(const OrbBaseElement& parent, const OrbBaseElement& child, bool stripId) {
   DOMElement* element = child.getImplementation();
-  if (ids == Ids::strip)
+  if (stripId)
     element->removeAttribute(OrbUni::_id);
   if (element->getParentNode() == parent.getImplementation())
     parent.getImplementation()->removeChild(element);
 }
 
 NewChild::NewChild(const OrbBaseElement& parent, const XMLCh* name, std::span<DOMNode* const> followers) :
-    parent_(parent.getImplementation()), element_(parent_->getOwnerDocument()->createElement(name)) {
+    NewChild(parent, parent.getImplementation()->getOwnerDocument()->createElement(name), followers) {}
+
+NewChild::NewChild(const OrbBaseElement& parent, DOMElement* element, std::span<DOMNode* const> followers) :
+    parent_(parent.getImplementation()), element_(element) {
   insertBeforeFirst(*parent_, *element_, followers.data(), followers.size());
 }
 

@@ -1,6 +1,7 @@
 // The child families of a wrapper: what a class's private record is made of.
 #pragma once
 
+#include "description.h"
 #include "loading.h"
 #include "orbbaseelement.h"
 
@@ -11,6 +12,8 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -31,16 +34,20 @@ template <class... Lists> using Joined = typename JoinLists<Lists...>::Type;
 /// The followers of a child that goes last.
 inline constexpr FamilyList<> atEnd;
 
-/// Whether a removed child's id is taken off its element, so that the document forgets it.
-enum class Ids { stay, strip };
+/// The English name of the class of an element: `majorTicks` gives "MajorTicks".
+std::string wordFor(const XMLCh* elementName);
 
 /// The limit of a single child: raises the text of OrbBaseElement::throwIfChildExists when there is one already. The
-/// words are the English names of the two classes.
+/// words are the English names of the two classes. The place in the source is that of the limit.
 struct OnlyOne {
-  constexpr OnlyOne(const char* childName, const char* parentName, const char* callerFile = __builtin_FILE(),
-                    unsigned int callerLine = __builtin_LINE()) :
-      child(childName), parent(parentName), file(callerFile), line(callerLine) {}
-  void check(const OrbBaseElement& wrapper, std::size_t count) const;
+  constexpr OnlyOne(const char* childName, const char* parentName, const char* sourceFile = __builtin_FILE(),
+                    unsigned int sourceLine = __builtin_LINE()) :
+      child(childName), parent(parentName), file(sourceFile), line(sourceLine) {}
+  template <class Child, class Families> void check(const OrbBaseElement& wrapper, const Families& families) const {
+    refuse(wrapper, families.template count<Child>());
+  }
+  void refuse(const OrbBaseElement& wrapper, std::size_t count) const;
+  constexpr void describe(FamilyDescription& family) const { family.most = 1; }
 
   const char* child;
   const char* parent;
@@ -48,12 +55,30 @@ struct OnlyOne {
   unsigned int line;
 };
 
-/// Any other limit, with the message that it raises.
+/// The limit of several children, with the same text.
+struct UpTo : OnlyOne {
+  constexpr UpTo(std::size_t limitCount, const char* childName, const char* parentName,
+                 const char* sourceFile = __builtin_FILE(), unsigned int sourceLine = __builtin_LINE()) :
+      OnlyOne(childName, parentName, sourceFile, sourceLine), limit(limitCount) {}
+  template <class Child, class Families> void check(const OrbBaseElement& wrapper, const Families& families) const {
+    if (families.template count<Child>() >= limit)
+      refuse(wrapper, families.template count<Child>());
+  }
+  constexpr void describe(FamilyDescription& family) const { family.most = limit; }
+
+  std::size_t limit;
+};
+
+/// The limit of several children, with a message of its own.
 struct AtMost {
-  constexpr AtMost(std::size_t limitCount, const char* text, const char* callerFile = __builtin_FILE(),
-                   unsigned int callerLine = __builtin_LINE()) :
-      limit(limitCount), message(text), file(callerFile), line(callerLine) {}
-  void check(const OrbBaseElement& wrapper, std::size_t count) const;
+  constexpr AtMost(std::size_t limitCount, const char* text, const char* sourceFile = __builtin_FILE(),
+                   unsigned int sourceLine = __builtin_LINE()) :
+      limit(limitCount), message(text), file(sourceFile), line(sourceLine) {}
+  template <class Child, class Families> void check(const OrbBaseElement& /*wrapper*/, const Families& families) const {
+    refuse(families.template count<Child>());
+  }
+  void refuse(std::size_t count) const;
+  constexpr void describe(FamilyDescription& family) const { family.most = limit; }
 
   std::size_t limit;
   const char* message;
@@ -61,10 +86,61 @@ struct AtMost {
   unsigned int line;
 };
 
-template <class Type>
-concept ChildLimit = requires(const Type limit, const OrbBaseElement& wrapper) {
-  limit.check(wrapper, std::size_t{});
+/// One child in all of some families: each of them is asked in order, and the text of OnlyOne names the one that has a
+/// child.
+template <class... Alternatives> struct OneAmong : OnlyOne {
+  using OnlyOne::OnlyOne;
+  template <class Child, class Families> void check(const OrbBaseElement& wrapper, const Families& families) const {
+    (refuseBeside(wrapper, families.template count<Alternatives>(), Alternatives::elementName), ...);
+  }
+  constexpr void describe(FamilyDescription& family) const {
+    family.most = 1;
+    family.alternatives = alternatives;
+  }
+
+private:
+  void refuseBeside(const OrbBaseElement& wrapper, std::size_t count, const XMLCh* existing) const {
+    if (count != 0)
+      wrapper.throwIfChildExists(count, 0, wordFor(existing), child, parent, file, line);
+  }
+
+  static constexpr Described alternatives[] = {&descriptionOf<Alternatives>...};
 };
+
+/// An entry of a list of families: a family with a limit.
+template <class Entry, const auto& familyLimit> struct Limited {};
+/// An entry of a list of families: the removal of a child takes its id off its element, so that the document forgets
+/// it.
+template <class Entry> struct StripsIds {};
+
+/// What an entry of a list says of its family.
+template <class Entry> struct FamilyEntry {
+  using Child = Entry;
+  static constexpr bool stripsIds = false;
+  template <class Families> static void checkLimit(const OrbBaseElement& /*parent*/, const Families& /*families*/) {}
+  static constexpr FamilyDescription describe() { return {.child = &descriptionOf<Child>}; }
+};
+template <class Entry, const auto& familyLimit> struct FamilyEntry<Limited<Entry, familyLimit>> : FamilyEntry<Entry> {
+  template <class Families> static void checkLimit(const OrbBaseElement& parent, const Families& families) {
+    familyLimit.template check<typename FamilyEntry<Entry>::Child>(parent, families);
+  }
+  static constexpr FamilyDescription describe() {
+    FamilyDescription family = FamilyEntry<Entry>::describe();
+    familyLimit.describe(family);
+    return family;
+  }
+};
+template <class Entry> struct FamilyEntry<StripsIds<Entry>> : FamilyEntry<Entry> {
+  static constexpr bool stripsIds = true;
+};
+template <class Entry> using ChildOf = typename FamilyEntry<Entry>::Child;
+
+/// The entry of a child class in a list.
+template <class Child, class... Entries> struct FindEntry;
+template <class Child, class First, class... Rest>
+struct FindEntry<Child, First, Rest...>
+    : std::conditional_t<std::is_same_v<Child, ChildOf<First>>, std::type_identity<FamilyEntry<First>>,
+                         FindEntry<Child, Rest...>> {};
 
 /// What becomes of the registrations of wrappers that end. A removal takes them away, so that no reference leads to a
 /// wrapper that has gone. A destructor leaves them: the DOM may have gone before it.
@@ -74,14 +150,16 @@ enum class Registrations { stay, go };
 /// no deep stack.
 void discard(OrbBaseElement* wrapper, Registrations registrations);
 
-/// Takes the element of a child out of its parent.
-void takeOut(const OrbBaseElement& parent, const OrbBaseElement& child, Ids ids);
+/// Takes the element of a child out of its parent, and before that its id off it if asked.
+void takeOut(const OrbBaseElement& parent, const OrbBaseElement& child, bool stripId);
 
 /// A new child element in its place. Unless it is kept, it leaves the document again: an add that fails half way
 /// leaves nothing behind.
 class NewChild {
 public:
   NewChild(const OrbBaseElement& parent, const XMLCh* name, std::span<xercesc::DOMNode* const> followers);
+  /// The same for an element that the caller has made.
+  NewChild(const OrbBaseElement& parent, xercesc::DOMElement* element, std::span<xercesc::DOMNode* const> followers);
   NewChild(const NewChild&) = delete;
   NewChild& operator=(const NewChild&) = delete;
   ~NewChild();
@@ -129,20 +207,33 @@ public:
       only_ = wrapper;
       return;
     }
-    std::unique_ptr<Child> kept(wrapper);
+    struct EndUnlessKept {
+      void operator()(Child* lost) const { discard(lost, Registrations::go); }
+    };
+    std::unique_ptr<Child, EndUnlessKept> kept(wrapper);
     live();
     vector()->push_back(wrapper);
     static_cast<void>(kept.release());
   }
 
-  void remove(std::size_t index) {
-    OrbBaseElement* wrapper = wrappers()[index];
+  /// Lets go of a wrapper and hands it over.
+  Child* release(std::size_t index) {
+    Child* wrapper = wrappers()[index];
     if (isVector())
       vector()->erase(vector()->begin() + static_cast<std::ptrdiff_t>(index));
     else
       only_ = nullptr;
-    discard(wrapper, Registrations::go);
+    return wrapper;
   }
+  /// Lets go of all wrappers and hands them over.
+  std::vector<Child*> releaseAll() {
+    std::vector<Child*> released(wrappers().begin(), wrappers().end());
+    if (isVector())
+      delete vector();
+    only_ = nullptr;
+    return released;
+  }
+  void remove(std::size_t index) { discard(release(index), Registrations::go); }
 
   void clear(Registrations registrations) {
     for (Child* wrapper : wrappers())
@@ -166,18 +257,16 @@ private:
   Child* only_ = nullptr;
 };
 
-/// All child families of a class; its private record derives from this.
-template <class List> class ChildFamilies;
-template <class... Children> class ChildFamilies<FamilyList<Children...>> : private Family<Children>... {
+/// All child families of a class; its private record derives from this. The list says all that is to say of a family:
+/// its place in the language, its limit, what a removal does to ids.
+template <class List, Unknown unknown = Unknown::raises> class ChildFamilies;
+template <class... Entries, Unknown unknown>
+class ChildFamilies<FamilyList<Entries...>, unknown> : private Family<ChildOf<Entries>>... {
 public:
   /// Wraps the children that the parent's element has.
-  void load(const OrbBaseElement& parent, Unknown unknown = Unknown::raises) {
-    loadChildren(parent, this, known.data(), known.size(), unknown);
-  }
+  void load(const OrbBaseElement& parent) { loadChildren(parent, this, loaded); }
   /// Wraps one node among the parent's children.
-  void loadOne(const OrbBaseElement& parent, xercesc::DOMNode* node) {
-    loadChild(parent, node, this, known.data(), known.size());
-  }
+  void loadOne(const OrbBaseElement& parent, xercesc::DOMNode* node) { loadChild(parent, node, this, loaded); }
 
   template <class Child> std::vector<Child*> all() const {
     const std::span<Child* const> wrappers = family<Child>().wrappers();
@@ -194,79 +283,102 @@ public:
   /// The elements of the first wrapper of each of the families, null for an empty one.
   template <class... Followers>
   std::array<xercesc::DOMNode*, sizeof...(Followers)> firstElements(FamilyList<Followers...>) const {
-    return {elementOf(first<Followers>())...};
+    return {elementOf(first<ChildOf<Followers>>())...};
   }
 
   /// Adds a child before the first wrapper of each of the followers' families, and hands the arguments to its
-  /// constructor.
+  /// constructor. The limit is tested before anything is made.
   template <class Child, class... Followers, class... Arguments>
   Child* add(const OrbBaseElement& parent, FamilyList<Followers...> followers, Arguments&&... arguments) {
     return addBefore<Child>(parent, firstElements(followers), std::forward<Arguments>(arguments)...);
-  }
-  /// The same with a limit, which is tested before anything is made.
-  template <class Child, ChildLimit Limit, class... Followers, class... Arguments>
-  Child* add(const OrbBaseElement& parent, const Limit& limit, FamilyList<Followers...> followers,
-             Arguments&&... arguments) {
-    limit.check(parent, count<Child>());
-    return add<Child>(parent, followers, std::forward<Arguments>(arguments)...);
   }
   /// Adds a child before the first of some elements.
   template <class Child, class... Arguments>
   Child* addBefore(const OrbBaseElement& parent, std::span<xercesc::DOMNode* const> followers,
                    Arguments&&... arguments) {
+    EntryOf<Child>::checkLimit(parent, *this);
     NewChild place(parent, Child::elementName, followers);
-    auto* wrapper = new Child(place.element(), std::forward<Arguments>(arguments)...);
-    family<Child>().append(wrapper);
-    place.keep();
-    return wrapper;
+    return keep<Child>(place, std::forward<Arguments>(arguments)...);
   }
+  /// Wraps an element that the caller has made, and puts it before the first wrapper of each of the followers'
+  /// families. No limit is tested.
+  template <class Child, class... Followers>
+  Child* adopt(const OrbBaseElement& parent, xercesc::DOMElement* element, FamilyList<Followers...> followers) {
+    NewChild place(parent, element, firstElements(followers));
+    return keep<Child>(place);
+  }
+  /// Takes over a wrapper whose element the caller has placed.
+  template <class Child> void append(Child* wrapper) { family<Child>().append(wrapper); }
 
   /// Removes the whole family and returns how many children that were.
-  template <class Child> unsigned int removeAll(const OrbBaseElement& parent, Ids ids = Ids::stay) {
+  template <class Child> unsigned int removeAll(const OrbBaseElement& parent) {
     const std::span<Child* const> wrappers = family<Child>().wrappers();
     const auto count = static_cast<unsigned int>(wrappers.size());
     for (const Child* wrapper : wrappers)
-      takeOut(parent, *wrapper, ids);
+      takeOut(parent, *wrapper, EntryOf<Child>::stripsIds);
     family<Child>().clear(Registrations::go);
     return count;
   }
-  /// Removes one child; false for an index past the end.
-  template <class Child> bool removeAt(const OrbBaseElement& parent, std::size_t index, Ids ids = Ids::stay) {
+  /// Removes one child; false for an index past the end. Its id stays unless asked for.
+  template <class Child> bool removeAt(const OrbBaseElement& parent, std::size_t index, bool stripId = false) {
     if (index >= count<Child>())
       return false;
-    takeOut(parent, *at<Child>(index), ids);
+    takeOut(parent, *at<Child>(index), stripId);
     family<Child>().remove(index);
     return true;
   }
   /// Removes the child whose wrapper stands over an element; false when no wrapper of the family does.
-  template <class Child>
-  bool removeOver(const OrbBaseElement& parent, const xercesc::DOMElement* element, Ids ids = Ids::stay) {
+  template <class Child> bool removeOver(const OrbBaseElement& parent, const xercesc::DOMElement* element) {
     const std::span<Child* const> wrappers = family<Child>().wrappers();
     for (std::size_t index = 0; index < wrappers.size(); ++index) {
       if (wrappers[index]->getImplementation() == element)
-        return removeAt<Child>(parent, index, ids);
+        return removeAt<Child>(parent, index);
     }
     return false;
   }
   /// Ends the wrappers of a family and leaves their elements in the document.
   template <class Child> void forget() { family<Child>().clear(Registrations::go); }
+  /// Lets go of the wrappers of a family, which the caller then owns, and leaves their elements in the document.
+  template <class Child> std::vector<Child*> releaseAll() { return family<Child>().releaseAll(); }
+
+  static constexpr void describe(ElementDescription& element) {
+    element.families = described;
+    element.loadsChildren = true;
+    element.unknownChildren = unknown;
+  }
 
 private:
+  template <class Child> using EntryOf = typename FindEntry<Child, Entries...>::type;
+
   template <class Child> Family<Child>& family() { return *this; }
   template <class Child> const Family<Child>& family() const { return *this; }
 
-  static const std::array<LoadedFamily, sizeof...(Children)> known;
-
+  /// Wraps a new child's element; the child stays when that has worked.
+  template <class Child, class... Arguments> Child* keep(NewChild& place, Arguments&&... arguments) {
+    auto* wrapper = new Child(place.element(), std::forward<Arguments>(arguments)...);
+    family<Child>().append(wrapper);
+    place.keep();
+    return wrapper;
+  }
   template <class Child> static void wrap(void* families, xercesc::DOMElement& child) {
     static_cast<ChildFamilies*>(families)->family<Child>().append(new Child(&child));
+  }
+  template <class Child> static void unwrap(void* families) {
+    auto& family = static_cast<ChildFamilies*>(families)->family<Child>();
+    family.remove(family.wrappers().size() - 1);
+  }
+  static void unwrapAll([[maybe_unused]] void* families) {
+    (static_cast<ChildFamilies*>(families)->family<ChildOf<Entries>>().clear(Registrations::go), ...);
   }
   static xercesc::DOMNode* elementOf(const OrbBaseElement* wrapper) {
     return wrapper == nullptr ? nullptr : wrapper->getImplementation();
   }
-};
 
-template <class... Children>
-constexpr std::array<LoadedFamily, sizeof...(Children)> ChildFamilies<FamilyList<Children...>>::known = {
-    LoadedFamily{Children::elementName, &ChildFamilies::template wrap<Children>}...};
+  // An array has room for one family more, as a class may have none.
+  static constexpr LoadedFamily known[sizeof...(Entries) + 1] = {
+      {ChildOf<Entries>::elementName, &wrap<ChildOf<Entries>>, &unwrap<ChildOf<Entries>>}...};
+  static constexpr LoadedFamilies loaded = {known, sizeof...(Entries), unknown, &unwrapAll};
+  static constexpr std::array<FamilyDescription, sizeof...(Entries)> described = {FamilyEntry<Entries>::describe()...};
+};
 
 } // namespace orbchart

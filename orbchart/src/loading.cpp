@@ -10,31 +10,79 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include <algorithm>
-#include <deque>
-#include <iterator>
+#include <cstddef>
 #include <string>
+#include <vector>
 
 using xercesc::DOMElement;
 using xercesc::DOMNode;
 using xercesc::XMLString;
 
 namespace orbchart {
+
+/// The load that is running on this thread, from the outermost wrapper's constructor to its end. It keeps the elements
+/// that it is at in a stack of its own.
+///
+/// Before it registers the first wrapper, it has seen that nothing lies too deep: once a document has had
+/// registrations, Xerces walks over it by recursion when it is released. Where something lies too deep, the load goes
+/// on until it raises, and registers nothing.
+class Load {
+public:
+  Load(const OrbBaseElement& outermost, DOMNode* first, bool withSiblings);
+  Load(const Load&) = delete;
+  Load& operator=(const Load&) = delete;
+  ~Load() { running = nullptr; }
+
+  /// The load of this thread; null when none is running.
+  static constinit thread_local Load* running;
+
+  /// Whether something lies too deep.
+  bool isDoomed() const { return isDoomed_; }
+  /// Raises in a doomed load if elements lie too deep below an element whose children have no wrappers.
+  void refuseDeepContent(DOMElement& element) const;
+
+  void leaveChildren(const OrbBaseElement& parent, DOMNode* first, void* families, const LoadedFamilies& loaded);
+  /// Wraps one child now, and what lies below it.
+  void wrapOne(const OrbBaseElement& parent, DOMElement& child, void* families, const LoadedFamilies& loaded);
+  /// Wraps all that was left.
+  void run();
+  /// A registration that another one takes the place of.
+  void note(DOMElement& element, const XMLCh* key, void* wrapper) { replaced_.push_back({&element, key, wrapper}); }
+
+private:
+  /// Children of a wrapper that are still to wrap, from one on.
+  struct Rest {
+    DOMNode* next;
+    const OrbBaseElement* parent;
+    void* families;
+    const LoadedFamilies* loaded;
+    unsigned int level;
+  };
+  struct Registration {
+    DOMElement* element;
+    const XMLCh* key;
+    void* wrapper;
+  };
+  struct Outermost {
+    void* families;
+    void (*unwrap)(void* families);
+  };
+
+  void wrapChildren();
+  void takeBack();
+
+  const OrbBaseElement& outermost_;
+  bool isDoomed_;
+  /// How deep the children of the wrapper lie that is being made.
+  unsigned int level_ = 1;
+  std::vector<Rest> rests_;
+  std::vector<Registration> replaced_;
+  std::vector<Outermost> outermostFamilies_;
+};
+
+constinit thread_local Load* Load::running = nullptr;
+
 namespace {
-
-struct Binding {
-  DOMElement* element;
-  const XMLCh* key;
-  void* wrapper;
-};
-
-/// The load that is running on this thread, from the outermost wrapper's constructor to its end.
-struct Load {
-  const OrbBaseElement& outermost;
-  unsigned int level = 0;
-  std::deque<Binding> bindings;
-};
-
-thread_local Load* running = nullptr;
 
 DOMElement& requiredElement(const OrbBaseElement& wrapper) {
   if (wrapper.getImplementation() == nullptr)
@@ -47,137 +95,152 @@ DOMElement& requiredElement(const OrbBaseElement& wrapper) {
         ChartString(top.getTagName()).toUTF8() + ".");
 }
 
-/// One wrapper's children in a running load.
-class Level {
-public:
-  Level() { ++running->level; }
-  Level(const Level&) = delete;
-  Level& operator=(const Level&) = delete;
-  ~Level() { --running->level; }
-};
-
-/// The next element after a node in document order, under a top element; keeps count of its level below the top.
-DOMElement* nextElement(DOMNode* node, const DOMElement& top, unsigned int& level) {
-  DOMNode* next = node->getNodeType() == DOMNode::ELEMENT_NODE ? node->getFirstChild() : nullptr;
-  level += next != nullptr ? 1 : 0;
+/// Whether an element among the nodes, or below them, lies deeper than the limit.
+bool liesTooDeep(DOMNode* node, bool withSiblings, unsigned int level) {
+  std::vector<DOMNode*> rests; // asking a node for its parent costs more
+  if (!withSiblings && node->getNodeType() == DOMNode::ELEMENT_NODE) {
+    node = node->getFirstChild();
+    ++level;
+  }
+  const unsigned int top = level;
   for (;;) {
-    while (next == nullptr) {
-      if (node == &top)
-        return nullptr;
-      next = node->getNextSibling();
-      if (next == nullptr) {
-        node = node->getParentNode();
-        --level;
+    while (node == nullptr) {
+      if (level == top)
+        return false;
+      node = rests.back();
+      rests.pop_back();
+      --level;
+    }
+    DOMNode* const next = node->getNextSibling();
+    if (node->getNodeType() == DOMNode::ELEMENT_NODE) {
+      if (level > maximumNesting)
+        return true;
+      if (DOMNode* const child = node->getFirstChild()) {
+        rests.push_back(next);
+        ++level;
+        node = child;
+        continue;
       }
     }
-    if (next->getNodeType() == DOMNode::ELEMENT_NODE)
-      return static_cast<DOMElement*>(next);
     node = next;
-    next = nullptr;
   }
 }
 
-[[gnu::noinline]] void refuseDeepContent(DOMElement& top, unsigned int topLevel) {
-  unsigned int level = topLevel;
-  for (DOMElement* element = nextElement(&top, top, level); element != nullptr;
-       element = nextElement(element, top, level)) {
-    if (level > maximumNesting)
-      raiseTooDeep(running == nullptr ? top : requiredElement(running->outermost));
-  }
-}
-
-/// Most leaves hold a text at most. Asking siblings alone is cheap, where asking for a parent is not.
-bool hasChildElement(const DOMElement& element) {
-  const DOMNode* node = element.getFirstChild();
-  while (node != nullptr && node->getNodeType() != DOMNode::ELEMENT_NODE)
-    node = node->getNextSibling();
-  return node != nullptr;
-}
-
-const LoadedFamily* findFamily(const XMLCh* name, const LoadedFamily* known, std::size_t count) {
-  for (const LoadedFamily* family = known; family != known + count; ++family) {
+const LoadedFamily* findFamily(const XMLCh* name, const LoadedFamilies& loaded) {
+  for (const LoadedFamily* family = loaded.known; family != loaded.known + loaded.count; ++family) {
     if (family->elementName[0] == name[0] && XMLString::equals(family->elementName, name))
       return family;
   }
   return nullptr;
 }
 
-[[noreturn]] void raiseUnknown(const OrbBaseElement& parent, const DOMElement& child) {
-  raise(parent.ChildNotFoundError(child.getTagName()));
-}
-
-// The frames of these two, and of a wrapper's constructor, are what one level of nesting costs of the stack: what
-// needs more room is kept out of them.
-
 void wrapChild(const OrbBaseElement& parent, DOMElement& child, void* families, const LoadedFamily* family,
                Unknown unknown) {
   if (family != nullptr)
     family->wrap(families, child);
   else if (unknown == Unknown::raises)
-    raiseUnknown(parent, child);
+    raise(parent.ChildNotFoundError(child.getTagName()));
   else
-    refuseDeepContent(child, running->level);
+    Load::running->refuseDeepContent(child);
 }
 
-void wrapChildren(const OrbBaseElement& parent, DOMNode* node, void* families, const LoadedFamily* known,
-                  std::size_t count, Unknown unknown) {
-  const Level level;
-  if (running->level > maximumNesting)
-    raiseTooDeep(requiredElement(running->outermost));
+} // namespace
+
+Load::Load(const OrbBaseElement& outermost, DOMNode* first, bool withSiblings) :
+    outermost_(outermost), isDoomed_(liesTooDeep(first, withSiblings, 1)) {
+  running = this;
+}
+
+void Load::refuseDeepContent(DOMElement& element) const {
+  // The children of a wrapper over the element would lie at the level.
+  if (isDoomed_ && liesTooDeep(element.getFirstChild(), true, level_))
+    raiseTooDeep(requiredElement(outermost_));
+}
+
+void Load::leaveChildren(const OrbBaseElement& parent, DOMNode* first, void* families, const LoadedFamilies& loaded) {
+  if (isDoomed_ && level_ > maximumNesting)
+    raiseTooDeep(requiredElement(outermost_));
+  if (level_ == 1)
+    outermostFamilies_.push_back({families, loaded.unwrapAll});
+  rests_.push_back({first, &parent, families, &loaded, level_});
+}
+
+void Load::wrapOne(const OrbBaseElement& parent, DOMElement& child, void* families, const LoadedFamilies& loaded) {
+  const LoadedFamily* family = findFamily(child.getTagName(), loaded);
+  level_ = 2;
+  wrapChild(parent, child, families, family, loaded.unknown);
+  outermostFamilies_.push_back({families, family->unwrap});
+  run();
+}
+
+void Load::run() {
+  std::reverse(rests_.begin(), rests_.end()); // the base's children come first
+  try {
+    while (!rests_.empty())
+      wrapChildren();
+  } catch (...) {
+    takeBack();
+    throw;
+  }
+}
+
+/// Wraps children of one wrapper until one of them leaves children of its own.
+void Load::wrapChildren() {
+  const std::size_t depth = rests_.size();
+  Rest rest = rests_.back();
+  level_ = rest.level + 1;
   // A document holds each name once, and most children have the name of the one before.
   const XMLCh* name = nullptr;
   const LoadedFamily* family = nullptr;
-  for (; node != nullptr; node = node->getNextSibling()) {
+  while (rest.next != nullptr) {
+    DOMNode* node = rest.next;
+    rest.next = node->getNextSibling();
     if (node->getNodeType() != DOMNode::ELEMENT_NODE)
       continue;
     auto& child = static_cast<DOMElement&>(*node);
     if (child.getTagName() != name) {
       name = child.getTagName();
-      family = findFamily(name, known, count);
+      family = findFamily(name, *rest.loaded);
     }
-    wrapChild(parent, child, families, family, unknown);
+    wrapChild(*rest.parent, child, rest.families, family, rest.loaded->unknown);
+    if (rests_.size() != depth) {
+      rests_[depth - 1].next = rest.next;
+      // A class that loads after its base has left its children behind the base's, and they come after them.
+      std::reverse(rests_.begin() + static_cast<std::ptrdiff_t>(depth), rests_.end());
+      return;
+    }
   }
+  rests_.pop_back();
 }
 
-/// An element has left the processor's cache since it was wrapped, and is fetched again some bindings ahead.
-void bindAll(const std::deque<Binding>& bindings) {
-  auto ahead = bindings.begin() + std::min<std::ptrdiff_t>(8, std::ssize(bindings));
-  for (const Binding& binding : bindings) {
-    if (ahead != bindings.end())
-      __builtin_prefetch(ahead++->element);
-    binding.element->setUserData(binding.key, binding.wrapper, nullptr);
+/// Ends what the load has made and leaves the registrations as they were.
+void Load::takeBack() {
+  while (!replaced_.empty()) {
+    const Registration registration = replaced_.back();
+    replaced_.pop_back();
+    registration.element->setUserData(registration.key, registration.wrapper, nullptr);
   }
+  for (const Outermost& outermost : outermostFamilies_)
+    outermost.unwrap(outermost.families);
 }
 
-/// Runs a load from its outermost wrapper on. What it has made is bound at its end; when it fails, nothing is.
-template <class Step> [[gnu::noinline]] void runLoad(const OrbBaseElement& outermost, Step step) {
-  struct Running {
-    explicit Running(Load& load) { running = &load; }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-    ~Running() { running = nullptr; }
-  };
-  Load load{outermost, 0, {}};
-  {
-    const Running whileThisRuns(load);
-    step();
-  }
-  bindAll(load.bindings);
-}
+JointLoad::JointLoad(const OrbBaseElement& outermost) :
+    load_(Load::running == nullptr ? std::make_unique<Load>(outermost, requiredElement(outermost).getFirstChild(), true)
+                                   : nullptr) {}
+JointLoad::~JointLoad() = default;
 
-[[gnu::noinline]] void loadFromHere(const OrbBaseElement& parent, DOMNode* first, void* families,
-                                    const LoadedFamily* known, std::size_t count, Unknown unknown) {
-  runLoad(parent, [&] { wrapChildren(parent, first, families, known, count, unknown); });
+void JointLoad::run() {
+  if (load_ != nullptr)
+    load_->run();
 }
-
-} // namespace
 
 void bindUnder(const XMLCh* key, const OrbBaseElement& wrapper, void* typedWrapper) {
   DOMElement& element = requiredElement(wrapper);
-  if (running != nullptr)
-    running->bindings.push_back({&element, key, typedWrapper});
-  else
-    element.setUserData(key, typedWrapper, nullptr);
+  if (Load::running != nullptr && Load::running->isDoomed())
+    return;
+  void* replaced = element.setUserData(key, typedWrapper, nullptr);
+  if (replaced != nullptr && Load::running != nullptr)
+    Load::running->note(element, key, replaced);
 }
 
 void unbind(const OrbBaseElement& wrapper) {
@@ -189,34 +252,33 @@ void unbind(const OrbBaseElement& wrapper) {
     element.setUserData(key, nullptr, nullptr);
 }
 
-void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFamily* known, std::size_t count,
-                  Unknown unknown) {
+void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFamilies& loaded) {
   DOMNode* first = requiredElement(parent).getFirstChild();
   if (first == nullptr)
     return;
-  if (running != nullptr)
-    wrapChildren(parent, first, families, known, count, unknown);
-  else
-    loadFromHere(parent, first, families, known, count, unknown);
+  if (Load::running != nullptr) {
+    Load::running->leaveChildren(parent, first, families, loaded);
+    return;
+  }
+  Load load(parent, first, true);
+  load.leaveChildren(parent, first, families, loaded);
+  load.run();
 }
 
-void loadChild(const OrbBaseElement& parent, DOMNode* node, void* families, const LoadedFamily* known,
-               std::size_t count) {
+void loadChild(const OrbBaseElement& parent, DOMNode* node, void* families, const LoadedFamilies& loaded) {
   if (node == nullptr || node->getNodeType() != DOMNode::ELEMENT_NODE)
     return;
-  runLoad(parent, [&] {
-    const Level level;
-    auto& child = static_cast<DOMElement&>(*node);
-    wrapChild(parent, child, families, findFamily(child.getTagName(), known, count), Unknown::raises);
-  });
+  Load(parent, node, false).wrapOne(parent, static_cast<DOMElement&>(*node), families, loaded);
 }
 
 void requireElement(const OrbBaseElement& wrapper) { static_cast<void>(requiredElement(wrapper)); }
 
 void refuseDeepContent(const OrbBaseElement& wrapper) {
   DOMElement& element = requiredElement(wrapper);
-  if (hasChildElement(element))
-    refuseDeepContent(element, running == nullptr ? 0 : running->level);
+  if (Load::running != nullptr)
+    Load::running->refuseDeepContent(element);
+  else if (liesTooDeep(element.getFirstChild(), true, 1))
+    raiseTooDeep(element);
 }
 
 } // namespace orbchart

@@ -1,19 +1,21 @@
 // How wrappers come to stand over the elements of a document: binding, loading, and the depth that both allow.
 #pragma once
 
+#include "description.h"
 #include "orbbaseelement.h"
 
 #include <cstddef>
+#include <memory>
 
 namespace orbchart {
 
-/// The deepest nesting of elements that a load accepts. Loading recurses, and so does Xerces when a host releases its
-/// document that has had wrappers: what lies deeper would overflow the stack.
+/// The deepest nesting of elements that a load accepts. Xerces recurses when a host releases its document that has had
+/// wrappers: what lies deeper would overflow the stack.
 inline constexpr unsigned int maximumNesting = 10'240;
 
 /// Registers a wrapper on its element under a key, by which references find it.
 ///
-/// While a load is running the registration waits for the end of it: a load that fails leaves no pointer in the DOM.
+/// A load that fails takes the registrations of its wrappers away and puts back what they stood in place of.
 void bindUnder(const XMLCh* key, const OrbBaseElement& wrapper, void* typedWrapper);
 
 /// Registers a wrapper under the name of its element. The pointer is kept as the concrete class's.
@@ -26,24 +28,47 @@ template <class Wrapper> void bindLeafUnder(const XMLCh* key, Wrapper& wrapper);
 /// Takes the registration of a wrapper off its element, wherever that is by now; another wrapper's stays.
 void unbind(const OrbBaseElement& wrapper);
 
-/// What a load does with a child element that is of none of its families.
-enum class Unknown { raises, passes };
-
-/// One family as a load sees it: the name of its element, and how a child joins it.
+/// One family as a load sees it: the name of its element, how a child joins it, and how the child that joined it last
+/// ends.
 struct LoadedFamily {
   const XMLCh* elementName;
   void (*wrap)(void* families, xercesc::DOMElement& child);
+  void (*unwrap)(void* families);
+};
+
+/// The families of a class as a load sees them, and how all their wrappers end.
+struct LoadedFamilies {
+  const LoadedFamily* known;
+  std::size_t count;
+  Unknown unknown;
+  void (*unwrapAll)(void* families);
 };
 
 /// Wraps the child elements of an element, in document order, each in the family of its name.
 ///
 /// An unknown child raises the text of ChildNotFoundError, or is passed over. Elements nested deeper than
 /// maximumNesting raise "Elements are nested more than <n> levels deep below <name>.".
-void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFamily* known, std::size_t count,
-                  Unknown unknown);
+///
+/// While a load is running, the children are left to it: it goes on with them before the next sibling of their parent,
+/// so that the first fault of the document is the one that is raised, and the depth of a document asks for no stack.
+void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFamilies& loaded);
 /// The same for one node among the children of a wrapper that stands. Null and what is not an element does nothing.
-void loadChild(const OrbBaseElement& parent, xercesc::DOMNode* node, void* families, const LoadedFamily* known,
-               std::size_t count);
+void loadChild(const OrbBaseElement& parent, xercesc::DOMNode* node, void* families, const LoadedFamilies& loaded);
+
+class Load;
+
+/// Holds the loads of a constructor together that wraps its children twice: what one of them refuses, none has.
+class JointLoad {
+public:
+  explicit JointLoad(const OrbBaseElement& outermost);
+  JointLoad(const JointLoad&) = delete;
+  JointLoad& operator=(const JointLoad&) = delete;
+  ~JointLoad();
+  void run();
+
+private:
+  std::unique_ptr<Load> load_;
+};
 
 /// Raises for a wrapper that got a null pointer: a constructor that writes before it loads asks first.
 void requireElement(const OrbBaseElement& wrapper);

@@ -9,13 +9,7 @@
 
 namespace orbchart {
 
-inline CTModifier* readModifier(const OrbBaseElement& wrapper, const XMLCh* name) {
-  return readReferenceTo<CTModifier, OrbDomainExclude, OrbDomainIntersect, OrbDomainReplace, OrbDomainUnion>(wrapper,
-                                                                                                             name);
-}
-
-inline void writeModifier(OrbBaseElement& wrapper, const XMLCh* name, const CTModifier& modifier) {
-  writeReferenceAmong<OrbDomainExclude, OrbDomainIntersect, OrbDomainReplace, OrbDomainUnion>(wrapper, name, modifier);
-}
+using ModifierReference =
+    ReferenceTo<CTModifier, OrbDomainExclude, OrbDomainIntersect, OrbDomainReplace, OrbDomainUnion>;
 
 } // namespace orbchart

@@ -8,28 +8,43 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Id id;
+constexpr Text keyVariables{OrbAggregate::_UTF_keyVariables};
+constexpr Text generatedCount{OrbAggregate::_UTF_generatedCount};
+constexpr Text missing{OrbAggregate::_UTF_missing};
+
+using Attributes = AttributeList<id, keyVariables, generatedCount, missing>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbAggregate>() {
+  return elementDescription<OrbAggregate, Attributes>;
+}
+
 OrbAggregate::OrbAggregate(DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbAggregate::OrbAggregate(DOMElement* element, const XMLCh* keyVariables) : OrbAggregate(element) {
   setKeyVariables(keyVariables);
 }
 OrbAggregate::~OrbAggregate() = default;
 
-const XMLCh* OrbAggregate::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbAggregate::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbAggregate::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbAggregate::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbAggregate::getId() const { return id.get(*this); }
+void OrbAggregate::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbAggregate::isIdPresent() const { return id.isPresent(*this); }
+void OrbAggregate::removeId() { id.remove(*this); }
 
-const XMLCh* OrbAggregate::getKeyVariables() const { return GetAttribute(_UTF_keyVariables); }
-void OrbAggregate::setKeyVariables(const XMLCh* keyVariables) { SetAttribute(_UTF_keyVariables, keyVariables); }
-bool OrbAggregate::isKeyVariablesPresent() const { return isPresent(*this, _UTF_keyVariables); }
-void OrbAggregate::removeKeyVariables() { removeAttribute(*this, _UTF_keyVariables); }
+const XMLCh* OrbAggregate::getKeyVariables() const { return keyVariables.get(*this); }
+void OrbAggregate::setKeyVariables(const XMLCh* value) { keyVariables.set(*this, value); }
+bool OrbAggregate::isKeyVariablesPresent() const { return keyVariables.isPresent(*this); }
+void OrbAggregate::removeKeyVariables() { keyVariables.remove(*this); }
 
-const XMLCh* OrbAggregate::getGeneratedCount() const { return GetAttribute(_UTF_generatedCount); }
-void OrbAggregate::setGeneratedCount(const XMLCh* generatedCount) { SetAttribute(_UTF_generatedCount, generatedCount); }
-bool OrbAggregate::isGeneratedCountPresent() const { return isPresent(*this, _UTF_generatedCount); }
-void OrbAggregate::removeGeneratedCount() { removeAttribute(*this, _UTF_generatedCount); }
+const XMLCh* OrbAggregate::getGeneratedCount() const { return generatedCount.get(*this); }
+void OrbAggregate::setGeneratedCount(const XMLCh* value) { generatedCount.set(*this, value); }
+bool OrbAggregate::isGeneratedCountPresent() const { return generatedCount.isPresent(*this); }
+void OrbAggregate::removeGeneratedCount() { generatedCount.remove(*this); }
 
-const XMLCh* OrbAggregate::getMissing() const { return GetAttribute(_UTF_missing); }
-void OrbAggregate::setMissing(const XMLCh* missing) { SetAttribute(_UTF_missing, missing); }
-bool OrbAggregate::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbAggregate::removeMissing() { removeAttribute(*this, _UTF_missing); }
+const XMLCh* OrbAggregate::getMissing() const { return missing.get(*this); }
+void OrbAggregate::setMissing(const XMLCh* value) { missing.set(*this, value); }
+bool OrbAggregate::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbAggregate::removeMissing() { missing.remove(*this); }

@@ -10,6 +10,21 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Id id;
+constexpr Text newCategory{OrbUni::_newCategory};
+constexpr Taking<CTVariableType, Reference<OrbSourceVariable>> sumVariable{OrbUni::_sumVariable};
+constexpr Double minFraction{OrbUni::_minFraction};
+
+using Attributes = AttributeList<id, newCategory, sumVariable, minFraction>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbAggregation>() {
+  return elementDescription<OrbAggregation, Attributes>;
+}
+
 OrbAggregation::OrbAggregation(DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbAggregation::OrbAggregation(DOMElement* element, const XMLCh* newCategory, const CTVariableType& sumVariable,
                                double minFraction) :
@@ -20,19 +35,15 @@ OrbAggregation::OrbAggregation(DOMElement* element, const XMLCh* newCategory, co
 }
 OrbAggregation::~OrbAggregation() = default;
 
-const XMLCh* OrbAggregation::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbAggregation::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbAggregation::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbAggregation::getId() const { return id.get(*this); }
+void OrbAggregation::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbAggregation::removeId() { id.remove(*this); }
 
-const XMLCh* OrbAggregation::getNewCategory() const { return GetAttribute(OrbUni::_newCategory); }
-void OrbAggregation::setNewCategory(const XMLCh* newCategory) { SetAttribute(OrbUni::_newCategory, newCategory); }
+const XMLCh* OrbAggregation::getNewCategory() const { return newCategory.get(*this); }
+void OrbAggregation::setNewCategory(const XMLCh* value) { newCategory.set(*this, value); }
 
-OrbSourceVariable* OrbAggregation::getSumVariable() const {
-  return readReference<OrbSourceVariable>(*this, OrbUni::_sumVariable);
-}
-void OrbAggregation::setSumVariable(const CTVariableType& variable) {
-  writeReference(*this, OrbUni::_sumVariable, variable);
-}
+OrbSourceVariable* OrbAggregation::getSumVariable() const { return sumVariable.get(*this); }
+void OrbAggregation::setSumVariable(const CTVariableType& target) { sumVariable.set(*this, target); }
 
-double OrbAggregation::getMinFraction() const { return readDouble(*this, OrbUni::_minFraction); }
-void OrbAggregation::setMinFraction(double minFraction) { writeDouble(*this, OrbUni::_minFraction, minFraction); }
+double OrbAggregation::getMinFraction() const { return minFraction.get(*this); }
+void OrbAggregation::setMinFraction(double value) { minFraction.set(*this, value); }

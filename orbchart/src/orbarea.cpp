@@ -9,30 +9,37 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Boolean closed{OrbArea::_UTF_closed};
+constexpr Boolean preserveStraightLines{OrbUni::_preserveStraightLines};
+constexpr Boolean showDiscontinuity{OrbArea::_UTF_showDiscontinuity};
+constexpr auto& breakRepresentation = breakRepresentationOf<OrbArea>;
+
+using Attributes = AttributeList<closed, preserveStraightLines, showDiscontinuity, breakRepresentation>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbArea>() {
+  return elementDescription<OrbArea, DerivedFrom<CTElementType>, Attributes>;
+}
+
 OrbArea::OrbArea(DOMElement* element) : CTElementType(element) { bind(*this); }
 OrbArea::OrbArea(DOMElement* element, const XMLCh* id) : CTElementType(element, id) { bind(*this); }
 OrbArea::~OrbArea() = default;
 
-bool OrbArea::getClosed() const { return readBoolean(*this, _UTF_closed); }
-void OrbArea::setClosed(bool closed) { writeBoolean(*this, _UTF_closed, closed); }
-void OrbArea::removeClosed() { removeAttribute(*this, _UTF_closed); }
+bool OrbArea::getClosed() const { return closed.get(*this); }
+void OrbArea::setClosed(bool value) { closed.set(*this, value); }
+void OrbArea::removeClosed() { closed.remove(*this); }
 
-bool OrbArea::getPreserveStraightLines() const { return readBoolean(*this, OrbUni::_preserveStraightLines); }
-void OrbArea::setPreserveStraightLines(bool preserveStraightLines) {
-  writeBoolean(*this, OrbUni::_preserveStraightLines, preserveStraightLines);
-}
-void OrbArea::removePreserveStraightLines() { removeAttribute(*this, OrbUni::_preserveStraightLines); }
+bool OrbArea::getPreserveStraightLines() const { return preserveStraightLines.get(*this); }
+void OrbArea::setPreserveStraightLines(bool value) { preserveStraightLines.set(*this, value); }
+void OrbArea::removePreserveStraightLines() { preserveStraightLines.remove(*this); }
 
-bool OrbArea::getShowDiscontinuity() const { return readBoolean(*this, _UTF_showDiscontinuity); }
-void OrbArea::setShowDiscontinuity(bool showDiscontinuity) {
-  writeBoolean(*this, _UTF_showDiscontinuity, showDiscontinuity);
-}
-void OrbArea::removeShowDiscontinuity() { removeAttribute(*this, _UTF_showDiscontinuity); }
+bool OrbArea::getShowDiscontinuity() const { return showDiscontinuity.get(*this); }
+void OrbArea::setShowDiscontinuity(bool value) { showDiscontinuity.set(*this, value); }
+void OrbArea::removeShowDiscontinuity() { showDiscontinuity.remove(*this); }
 
-OrbArea::ENUM_breakRepresentation OrbArea::getBreakRepresentation() const {
-  return readKeyword(*this, _UTF_breakRepresentation, breakRepresentations<OrbArea>, breakRepresentation_unset);
-}
-void OrbArea::setBreakRepresentation(ENUM_breakRepresentation breakRepresentation) {
-  writeKeyword(*this, _UTF_breakRepresentation, breakRepresentations<OrbArea>, breakRepresentation);
-}
-void OrbArea::removeBreakRepresentation() { removeAttribute(*this, _UTF_breakRepresentation); }
+OrbArea::ENUM_breakRepresentation OrbArea::getBreakRepresentation() const { return breakRepresentation.get(*this); }
+void OrbArea::setBreakRepresentation(ENUM_breakRepresentation value) { breakRepresentation.set(*this, value); }
+void OrbArea::removeBreakRepresentation() { breakRepresentation.remove(*this); }

@@ -10,80 +10,88 @@ using namespace orbchart;
 
 namespace {
 
-constexpr Keyword<OrbBinStatistic::ENUM_method> methods[] = {
-    {OrbBinStatistic::method_aggregate, OrbBinStatistic::_UTF_method_aggregate},
-    {OrbBinStatistic::method_allDimensions, OrbBinStatistic::_UTF_method_allDimensions},
-    {OrbBinStatistic::method_notResponse, OrbBinStatistic::_UTF_method_notResponse},
-};
+constexpr Id id;
+constexpr Keywords method{OrbUni::_method,
+                          AbsentReadsAs(OrbBinStatistic::method_aggregate),
+                          {
+                              {OrbBinStatistic::method_aggregate, OrbBinStatistic::_UTF_method_aggregate},
+                              {OrbBinStatistic::method_allDimensions, OrbBinStatistic::_UTF_method_allDimensions},
+                              {OrbBinStatistic::method_notResponse, OrbBinStatistic::_UTF_method_notResponse},
+                          }};
+constexpr Keywords location{OrbUni::_location,
+                            AbsentReadsAs(OrbBinStatistic::location_grid),
+                            {
+                                {OrbBinStatistic::location_grid, OrbUni::_grid},
+                                {OrbBinStatistic::location_centroid, OrbUni::_centroid},
+                            }};
+constexpr Keywords gridType{OrbUni::_gridType,
+                            AbsentReadsAs(OrbBinStatistic::gridType_hex),
+                            {
+                                {OrbBinStatistic::gridType_hex, OrbUni::_hex},
+                                {OrbBinStatistic::gridType_dot, OrbUni::_dot},
+                                {OrbBinStatistic::gridType_square, OrbUni::_square},
+                                {OrbBinStatistic::gridType_voronoi, OrbBinStatistic::_UTF_gridType_voronoi},
+                            }};
+constexpr Text binCount{OrbUni::_binCount};
+constexpr Text binWidth{OrbUni::_binWidth};
+constexpr Text binStart{OrbBinStatistic::_UTF_binStart};
+constexpr Text dimensions{OrbBinStatistic::_UTF_dimensions};
+constexpr Boolean augment{OrbBinStatistic::_UTF_augment};
 
-constexpr Keyword<OrbBinStatistic::ENUM_location> locations[] = {
-    {OrbBinStatistic::location_grid, OrbUni::_grid},
-    {OrbBinStatistic::location_centroid, OrbUni::_centroid},
-};
-
-constexpr Keyword<OrbBinStatistic::ENUM_gridType> gridTypes[] = {
-    {OrbBinStatistic::gridType_hex, OrbUni::_hex},
-    {OrbBinStatistic::gridType_dot, OrbUni::_dot},
-    {OrbBinStatistic::gridType_square, OrbUni::_square},
-    {OrbBinStatistic::gridType_voronoi, OrbBinStatistic::_UTF_gridType_voronoi},
-};
+using Attributes = AttributeList<id, method, location, gridType, binCount, binWidth, binStart, dimensions, augment>;
 
 // The getter knows the methods by these texts alone.
-constexpr Keyword<OrbBinStatistic::ENUM_method> methodNumbers[] = {
-    {OrbBinStatistic::method_aggregate, u"0"},
-    {OrbBinStatistic::method_allDimensions, u"1"},
-    {OrbBinStatistic::method_notResponse, u"2"},
-};
+constexpr Keywords methodNumber{OrbUni::_method,
+                                AbsentReadsAs(OrbBinStatistic::method_aggregate),
+                                {
+                                    {OrbBinStatistic::method_aggregate, u"0"},
+                                    {OrbBinStatistic::method_allDimensions, u"1"},
+                                    {OrbBinStatistic::method_notResponse, u"2"},
+                                }};
 
 } // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbBinStatistic>() {
+  return elementDescription<OrbBinStatistic, Attributes>;
+}
 
 OrbBinStatistic::OrbBinStatistic(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbBinStatistic::~OrbBinStatistic() = default;
 
-const XMLCh* OrbBinStatistic::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbBinStatistic::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbBinStatistic::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbBinStatistic::getId() const { return id.get(*this); }
+void OrbBinStatistic::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbBinStatistic::removeId() { id.remove(*this); }
 
-OrbBinStatistic::ENUM_method OrbBinStatistic::getMethod() const {
-  return readKeyword(*this, OrbUni::_method, methodNumbers, method_aggregate);
-}
-void OrbBinStatistic::setMethod(ENUM_method method) { writeKeyword(*this, OrbUni::_method, methods, method); }
-void OrbBinStatistic::removeMethod() { removeAttribute(*this, OrbUni::_method); }
+OrbBinStatistic::ENUM_method OrbBinStatistic::getMethod() const { return methodNumber.get(*this); }
+void OrbBinStatistic::setMethod(ENUM_method value) { method.set(*this, value); }
+void OrbBinStatistic::removeMethod() { method.remove(*this); }
 
-OrbBinStatistic::ENUM_location OrbBinStatistic::getLocation() const {
-  return readKeyword(*this, OrbUni::_location, locations, location_grid);
-}
-void OrbBinStatistic::setLocation(ENUM_location location) {
-  writeKeyword(*this, OrbUni::_location, locations, location);
-}
-void OrbBinStatistic::removeLocation() { removeAttribute(*this, OrbUni::_location); }
+OrbBinStatistic::ENUM_location OrbBinStatistic::getLocation() const { return location.get(*this); }
+void OrbBinStatistic::setLocation(ENUM_location value) { location.set(*this, value); }
+void OrbBinStatistic::removeLocation() { location.remove(*this); }
 
-OrbBinStatistic::ENUM_gridType OrbBinStatistic::getGridType() const {
-  return readKeyword(*this, OrbUni::_gridType, gridTypes, gridType_hex);
-}
-void OrbBinStatistic::setGridType(ENUM_gridType gridType) {
-  writeKeyword(*this, OrbUni::_gridType, gridTypes, gridType);
-}
-void OrbBinStatistic::removeGridType() { removeAttribute(*this, OrbUni::_gridType); }
+OrbBinStatistic::ENUM_gridType OrbBinStatistic::getGridType() const { return gridType.get(*this); }
+void OrbBinStatistic::setGridType(ENUM_gridType value) { gridType.set(*this, value); }
+void OrbBinStatistic::removeGridType() { gridType.remove(*this); }
 
-const XMLCh* OrbBinStatistic::getBinCount() const { return GetAttribute(OrbUni::_binCount); }
-void OrbBinStatistic::setBinCount(const XMLCh* binCount) { SetAttribute(OrbUni::_binCount, binCount); }
-void OrbBinStatistic::removeBinCount() { removeAttribute(*this, OrbUni::_binCount); }
+const XMLCh* OrbBinStatistic::getBinCount() const { return binCount.get(*this); }
+void OrbBinStatistic::setBinCount(const XMLCh* value) { binCount.set(*this, value); }
+void OrbBinStatistic::removeBinCount() { binCount.remove(*this); }
 
-const XMLCh* OrbBinStatistic::getBinWidth() const { return GetAttribute(OrbUni::_binWidth); }
-void OrbBinStatistic::setBinWidth(const XMLCh* binWidth) { SetAttribute(OrbUni::_binWidth, binWidth); }
-void OrbBinStatistic::removeBinWidth() { removeAttribute(*this, OrbUni::_binWidth); }
+const XMLCh* OrbBinStatistic::getBinWidth() const { return binWidth.get(*this); }
+void OrbBinStatistic::setBinWidth(const XMLCh* value) { binWidth.set(*this, value); }
+void OrbBinStatistic::removeBinWidth() { binWidth.remove(*this); }
 
-const XMLCh* OrbBinStatistic::getBinStart() const { return GetAttribute(_UTF_binStart); }
-void OrbBinStatistic::setBinStart(const XMLCh* binStart) { SetAttribute(_UTF_binStart, binStart); }
-void OrbBinStatistic::removeBinStart() { removeAttribute(*this, _UTF_binStart); }
+const XMLCh* OrbBinStatistic::getBinStart() const { return binStart.get(*this); }
+void OrbBinStatistic::setBinStart(const XMLCh* value) { binStart.set(*this, value); }
+void OrbBinStatistic::removeBinStart() { binStart.remove(*this); }
 
-const XMLCh* OrbBinStatistic::getDimensions() const { return GetAttribute(_UTF_dimensions); }
-void OrbBinStatistic::setDimensions(const XMLCh* dimensions) { SetAttribute(_UTF_dimensions, dimensions); }
-bool OrbBinStatistic::isDimensionsPresent() const { return isPresent(*this, _UTF_dimensions); }
-void OrbBinStatistic::removeDimensions() { removeAttribute(*this, _UTF_dimensions); }
+const XMLCh* OrbBinStatistic::getDimensions() const { return dimensions.get(*this); }
+void OrbBinStatistic::setDimensions(const XMLCh* value) { dimensions.set(*this, value); }
+bool OrbBinStatistic::isDimensionsPresent() const { return dimensions.isPresent(*this); }
+void OrbBinStatistic::removeDimensions() { dimensions.remove(*this); }
 
-bool OrbBinStatistic::getAugment() const { return readBoolean(*this, _UTF_augment); }
-void OrbBinStatistic::setAugment(bool augment) { writeBoolean(*this, _UTF_augment, augment); }
-bool OrbBinStatistic::isAugmentPresent() const { return isPresent(*this, _UTF_augment); }
-void OrbBinStatistic::removeAugment() { removeAttribute(*this, _UTF_augment); }
+bool OrbBinStatistic::getAugment() const { return augment.get(*this); }
+void OrbBinStatistic::setAugment(bool value) { augment.set(*this, value); }
+bool OrbBinStatistic::isAugmentPresent() const { return augment.isPresent(*this); }
+void OrbBinStatistic::removeAugment() { augment.remove(*this); }

@@ -7,7 +7,21 @@
 
 using namespace orbchart;
 
-struct OrbBlend::Children : ChildFamilies<AlgebraOperands> {};
+namespace {
+
+constexpr Id id;
+
+using Attributes = AttributeList<id>;
+
+using Families = ChildFamilies<AlgebraOperandsWithoutIds>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbBlend>() {
+  return elementDescription<OrbBlend, Attributes, Families>;
+}
+
+struct OrbBlend::Children : Families {};
 
 OrbBlend::OrbBlend(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -15,21 +29,21 @@ OrbBlend::OrbBlend(xercesc::DOMElement* element) : OrbBaseElement(element), chil
 }
 OrbBlend::~OrbBlend() = default;
 
-const XMLCh* OrbBlend::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbBlend::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbBlend::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbBlend::getId() const { return id.get(*this); }
+void OrbBlend::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbBlend::removeId() { id.remove(*this); }
 
 OrbBlend* OrbBlend::addBlend() { return children_->add<OrbBlend>(*this, atEnd); }
 std::vector<OrbBlend*> OrbBlend::getBlends() const { return children_->all<OrbBlend>(); }
-unsigned int OrbBlend::removeBlends() { return children_->removeAll<OrbBlend>(*this, Ids::strip); }
+unsigned int OrbBlend::removeBlends() { return children_->removeAll<OrbBlend>(*this); }
 
 OrbCross* OrbBlend::addCross() { return children_->add<OrbCross>(*this, atEnd); }
 std::vector<OrbCross*> OrbBlend::getCrosss() const { return children_->all<OrbCross>(); }
-unsigned int OrbBlend::removeCrosss() { return children_->removeAll<OrbCross>(*this, Ids::strip); }
+unsigned int OrbBlend::removeCrosss() { return children_->removeAll<OrbCross>(*this); }
 
 OrbNest* OrbBlend::addNest() { return children_->add<OrbNest>(*this, atEnd); }
 std::vector<OrbNest*> OrbBlend::getNests() const { return children_->all<OrbNest>(); }
-unsigned int OrbBlend::removeNests() { return children_->removeAll<OrbNest>(*this, Ids::strip); }
+unsigned int OrbBlend::removeNests() { return children_->removeAll<OrbNest>(*this); }
 
 OrbVariableReference* OrbBlend::addVariableReference() { return children_->add<OrbVariableReference>(*this, atEnd); }
 std::vector<OrbVariableReference*> OrbBlend::getVariableReferences() const {

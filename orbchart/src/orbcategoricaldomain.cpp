@@ -13,14 +13,24 @@ using xercesc::DOMElement;
 
 namespace {
 
+constexpr Id id;
+constexpr Boolean date{OrbUni::_date};
+
+using Attributes = AttributeList<id, date>;
+
 // What the language has after them has no class here.
 using AfterCategories = FamilyList<>;
 using AfterReferences = Joined<FamilyList<OrbCategories>, AfterCategories>;
 
+using Families = ChildFamilies<FamilyList<OrbVariableReference, OrbDomainReference, OrbCategories>>;
+
 } // namespace
 
-struct OrbCategoricalDomain::Children
-    : ChildFamilies<FamilyList<OrbVariableReference, OrbDomainReference, OrbCategories>> {};
+template <> const ElementDescription& orbchart::descriptionOf<OrbCategoricalDomain>() {
+  return elementDescription<OrbCategoricalDomain, Attributes, Families>;
+}
+
+struct OrbCategoricalDomain::Children : Families {};
 
 OrbCategoricalDomain::OrbCategoricalDomain(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -31,13 +41,13 @@ OrbCategoricalDomain::OrbCategoricalDomain(DOMElement* element, const XMLCh* id)
 }
 OrbCategoricalDomain::~OrbCategoricalDomain() = default;
 
-const XMLCh* OrbCategoricalDomain::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbCategoricalDomain::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbCategoricalDomain::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbCategoricalDomain::getId() const { return id.get(*this); }
+void OrbCategoricalDomain::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbCategoricalDomain::removeId() { id.remove(*this); }
 
-bool OrbCategoricalDomain::getDate() const { return readBoolean(*this, OrbUni::_date); }
-void OrbCategoricalDomain::setDate(bool date) { writeBoolean(*this, OrbUni::_date, date); }
-void OrbCategoricalDomain::removeDate() { removeAttribute(*this, OrbUni::_date); }
+bool OrbCategoricalDomain::getDate() const { return date.get(*this); }
+void OrbCategoricalDomain::setDate(bool value) { date.set(*this, value); }
+void OrbCategoricalDomain::removeDate() { date.remove(*this); }
 
 OrbVariableReference* OrbCategoricalDomain::addVariableReference(const CTVariableType& variable) {
   return children_->add<OrbVariableReference>(*this, AfterReferences{}, variable);

@@ -15,16 +15,26 @@ using xercesc::DOMElement;
 
 namespace {
 
-constexpr Keyword<OrbCategoricalDomainModifier::ENUM_dateType> dateTypes[] = {
-    {OrbCategoricalDomainModifier::dateType_date, OrbUni::_date},
-    {OrbCategoricalDomainModifier::dateType_dateTime, OrbUni::_dateTime},
-    {OrbCategoricalDomainModifier::dateType_time, OrbUni::_time},
-};
+constexpr Id id;
+constexpr Keywords dateType{OrbCategoricalDomainModifier::_UTF_dateType,
+                            OrbCategoricalDomainModifier::dateType_unset,
+                            {
+                                {OrbCategoricalDomainModifier::dateType_date, OrbUni::_date},
+                                {OrbCategoricalDomainModifier::dateType_dateTime, OrbUni::_dateTime},
+                                {OrbCategoricalDomainModifier::dateType_time, OrbUni::_time},
+                            }};
+
+using Attributes = AttributeList<id, dateType>;
+
+using Families = ChildFamilies<FamilyList<OrbDomainReplace, OrbDomainUnion, OrbDomainIntersect, OrbDomainExclude>>;
 
 } // namespace
 
-struct OrbCategoricalDomainModifier::Children
-    : ChildFamilies<FamilyList<OrbDomainReplace, OrbDomainUnion, OrbDomainIntersect, OrbDomainExclude>> {};
+template <> const ElementDescription& orbchart::descriptionOf<OrbCategoricalDomainModifier>() {
+  return elementDescription<OrbCategoricalDomainModifier, Attributes, Families>;
+}
+
+struct OrbCategoricalDomainModifier::Children : Families {};
 
 OrbCategoricalDomainModifier::OrbCategoricalDomainModifier(DOMElement* element) :
     OrbBaseElement(element), children_(new Children) {
@@ -33,19 +43,17 @@ OrbCategoricalDomainModifier::OrbCategoricalDomainModifier(DOMElement* element) 
 }
 OrbCategoricalDomainModifier::~OrbCategoricalDomainModifier() = default;
 
-const XMLCh* OrbCategoricalDomainModifier::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbCategoricalDomainModifier::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbCategoricalDomainModifier::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbCategoricalDomainModifier::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbCategoricalDomainModifier::getId() const { return id.get(*this); }
+void OrbCategoricalDomainModifier::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbCategoricalDomainModifier::isIdPresent() const { return id.isPresent(*this); }
+void OrbCategoricalDomainModifier::removeId() { id.remove(*this); }
 
 OrbCategoricalDomainModifier::ENUM_dateType OrbCategoricalDomainModifier::getDateType() const {
-  return readKeyword(*this, _UTF_dateType, dateTypes, dateType_unset);
+  return dateType.get(*this);
 }
-void OrbCategoricalDomainModifier::setDateType(ENUM_dateType dateType) {
-  writeKeyword(*this, _UTF_dateType, dateTypes, dateType);
-}
-bool OrbCategoricalDomainModifier::isDateTypePresent() const { return isPresent(*this, _UTF_dateType); }
-void OrbCategoricalDomainModifier::removeDateType() { removeAttribute(*this, _UTF_dateType); }
+void OrbCategoricalDomainModifier::setDateType(ENUM_dateType value) { dateType.set(*this, value); }
+bool OrbCategoricalDomainModifier::isDateTypePresent() const { return dateType.isPresent(*this); }
+void OrbCategoricalDomainModifier::removeDateType() { dateType.remove(*this); }
 
 OrbDomainReplace* OrbCategoricalDomainModifier::addDomainReplace() {
   return children_->add<OrbDomainReplace>(*this, atEnd);

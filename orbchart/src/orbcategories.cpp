@@ -8,6 +8,19 @@
 
 using namespace orbchart;
 
+namespace {
+
+// The C library has a function `remove`.
+constexpr Boolean removeAttribute{OrbUni::_remove};
+
+using Attributes = AttributeList<removeAttribute>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbCategories>() {
+  return elementDescription<OrbCategories, Attributes, BearsText>;
+}
+
 OrbCategories::OrbCategories(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbCategories::~OrbCategories() = default;
 
@@ -15,6 +28,6 @@ ChartString OrbCategories::getText() const { return readText(*this); }
 void OrbCategories::setText(const XMLCh* text) { writeText(*this, text); }
 void OrbCategories::removeText() { clearText(*this); }
 
-bool OrbCategories::getRemove() const { return readBoolean(*this, OrbUni::_remove); }
-void OrbCategories::setRemove(bool remove) { writeBoolean(*this, OrbUni::_remove, remove); }
-void OrbCategories::removeRemove() { removeAttribute(*this, OrbUni::_remove); }
+bool OrbCategories::getRemove() const { return removeAttribute.get(*this); }
+void OrbCategories::setRemove(bool value) { removeAttribute.set(*this, value); }
+void OrbCategories::removeRemove() { removeAttribute.remove(*this); }

@@ -1,11 +1,16 @@
 // A list of categories under a domain modifier.
 #include "orbcategories2.h"
 
+#include "attribute.h"
 #include "elementtext.h"
 #include "loading.h"
 #include "orbuni.h"
 
 using namespace orbchart;
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbCategories2>() {
+  return elementDescription<OrbCategories2, BearsText>;
+}
 
 OrbCategories2::OrbCategories2(xercesc::DOMElement* element) : OrbBaseElement(element) {
   bindLeafUnder(OrbUni::_categories, *this);

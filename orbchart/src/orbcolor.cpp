@@ -10,54 +10,67 @@ using namespace orbchart;
 
 namespace {
 
-constexpr Keyword<OrbColor::ENUM_affect> affects[] = {
-    {OrbColor::affect_both, OrbUni::_both},           {OrbColor::affect_main, OrbUni::_main},
-    {OrbColor::affect_secondary, OrbUni::_secondary}, {OrbColor::affect_stroke, OrbUni::_stroke},
-    {OrbColor::affect_fill, OrbUni::_fill},
-};
+constexpr Keywords affect{OrbUni::_affect,
+                          OrbColor::affect_unset,
+                          {
+                              {OrbColor::affect_both, OrbUni::_both},
+                              {OrbColor::affect_main, OrbUni::_main},
+                              {OrbColor::affect_secondary, OrbUni::_secondary},
+                              {OrbColor::affect_stroke, OrbUni::_stroke},
+                              {OrbColor::affect_fill, OrbUni::_fill},
+                          }};
+constexpr Text low{OrbUni::_low};
+constexpr Text high{OrbUni::_high};
+constexpr Text cycle{OrbUni::_cycle};
+constexpr Text missing{OrbColor::_UTF_missing};
+constexpr Keywords scale{OrbUni::_scale,
+                         OrbColor::scale_unset,
+                         {
+                             {OrbColor::scale_bipolarBlack, OrbColor::_UTF_scale_bipolarBlack},
+                             {OrbColor::scale_bipolarWhite, OrbColor::_UTF_scale_bipolarWhite},
+                             {OrbColor::scale_bipolarGray, OrbColor::_UTF_scale_bipolarGray},
+                             {OrbColor::scale_bipolarLightGray, OrbColor::_UTF_scale_bipolarLightGray},
+                             {OrbColor::scale_bipolarDarkGray, OrbColor::_UTF_scale_bipolarDarkGray},
+                             {OrbColor::scale_rainbow, OrbColor::_UTF_scale_rainbow},
+                             {OrbColor::scale_circular, OrbColor::_UTF_scale_circular},
+                             {OrbColor::scale_temperature, OrbColor::_UTF_scale_temperature},
+                             {OrbColor::scale_interpolated, OrbUni::_interpolated},
+                         }};
 
-constexpr Keyword<OrbColor::ENUM_scale> scales[] = {
-    {OrbColor::scale_bipolarBlack, OrbColor::_UTF_scale_bipolarBlack},
-    {OrbColor::scale_bipolarWhite, OrbColor::_UTF_scale_bipolarWhite},
-    {OrbColor::scale_bipolarGray, OrbColor::_UTF_scale_bipolarGray},
-    {OrbColor::scale_bipolarLightGray, OrbColor::_UTF_scale_bipolarLightGray},
-    {OrbColor::scale_bipolarDarkGray, OrbColor::_UTF_scale_bipolarDarkGray},
-    {OrbColor::scale_rainbow, OrbColor::_UTF_scale_rainbow},
-    {OrbColor::scale_circular, OrbColor::_UTF_scale_circular},
-    {OrbColor::scale_temperature, OrbColor::_UTF_scale_temperature},
-    {OrbColor::scale_interpolated, OrbUni::_interpolated},
-};
+using Attributes = AttributeList<affect, low, high, cycle, missing, scale>;
 
 } // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbColor>() {
+  return elementDescription<OrbColor, DerivedFrom<CTAesthetic>, Attributes>;
+}
 
 OrbColor::OrbColor(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
 OrbColor::~OrbColor() = default;
 
-OrbColor::ENUM_affect OrbColor::getAffect() const { return readKeyword(*this, OrbUni::_affect, affects, affect_unset); }
-void OrbColor::setAffect(ENUM_affect affect) { writeKeyword(*this, OrbUni::_affect, affects, affect); }
-void OrbColor::removeAffect() { removeAttribute(*this, OrbUni::_affect); }
+OrbColor::ENUM_affect OrbColor::getAffect() const { return affect.get(*this); }
+void OrbColor::setAffect(ENUM_affect value) { affect.set(*this, value); }
+void OrbColor::removeAffect() { affect.remove(*this); }
 
-const XMLCh* OrbColor::getLow() const { return GetAttribute(OrbUni::_low); }
-void OrbColor::setLow(const XMLCh* low) { SetAttribute(OrbUni::_low, low); }
-bool OrbColor::isLowPresent() const { return isPresent(*this, OrbUni::_low); }
-void OrbColor::removeLow() { removeAttribute(*this, OrbUni::_low); }
+const XMLCh* OrbColor::getLow() const { return low.get(*this); }
+void OrbColor::setLow(const XMLCh* value) { low.set(*this, value); }
+bool OrbColor::isLowPresent() const { return low.isPresent(*this); }
+void OrbColor::removeLow() { low.remove(*this); }
 
-const XMLCh* OrbColor::getHigh() const { return GetAttribute(OrbUni::_high); }
-void OrbColor::setHigh(const XMLCh* high) { SetAttribute(OrbUni::_high, high); }
-bool OrbColor::isHighPresent() const { return isPresent(*this, OrbUni::_high); }
-void OrbColor::removeHigh() { removeAttribute(*this, OrbUni::_high); }
+const XMLCh* OrbColor::getHigh() const { return high.get(*this); }
+void OrbColor::setHigh(const XMLCh* value) { high.set(*this, value); }
+bool OrbColor::isHighPresent() const { return high.isPresent(*this); }
+void OrbColor::removeHigh() { high.remove(*this); }
 
-bool OrbColor::isCyclePresent() const { return isPresent(*this, OrbUni::_cycle); }
-void OrbColor::removeCycle() { removeAttribute(*this, OrbUni::_cycle); }
+bool OrbColor::isCyclePresent() const { return cycle.isPresent(*this); }
+void OrbColor::removeCycle() { cycle.remove(*this); }
 
-const XMLCh* OrbColor::getMissing() const { return GetAttribute(_UTF_missing); }
-void OrbColor::setMissing(const XMLCh* missing) { SetAttribute(_UTF_missing, missing); }
-bool OrbColor::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbColor::removeMissing() { removeAttribute(*this, _UTF_missing); }
+const XMLCh* OrbColor::getMissing() const { return missing.get(*this); }
+void OrbColor::setMissing(const XMLCh* value) { missing.set(*this, value); }
+bool OrbColor::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbColor::removeMissing() { missing.remove(*this); }
 
-OrbColor::ENUM_scale OrbColor::getScaleAttribute() const {
-  return readKeyword(*this, OrbUni::_scale, scales, scale_unset);
-}
-void OrbColor::setScaleAttribute(ENUM_scale scale) { writeKeyword(*this, OrbUni::_scale, scales, scale); }
-bool OrbColor::isScaleAttributePresent() const { return isPresent(*this, OrbUni::_scale); }
-void OrbColor::removeScaleAttribute() { removeAttribute(*this, OrbUni::_scale); }
+OrbColor::ENUM_scale OrbColor::getScaleAttribute() const { return scale.get(*this); }
+void OrbColor::setScaleAttribute(ENUM_scale value) { scale.set(*this, value); }
+bool OrbColor::isScaleAttributePresent() const { return scale.isPresent(*this); }
+void OrbColor::removeScaleAttribute() { scale.remove(*this); }

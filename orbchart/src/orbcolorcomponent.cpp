@@ -10,45 +10,55 @@ using namespace orbchart;
 
 namespace {
 
-constexpr Keyword<OrbColorComponent::ENUM_type> types[] = {
-    {OrbColorComponent::type_hue, OrbColorComponent::_UTF_type_hue},
-    {OrbColorComponent::type_saturation, OrbColorComponent::_UTF_type_saturation},
-    {OrbColorComponent::type_brightness, OrbColorComponent::_UTF_type_brightness},
-};
+constexpr Keywords type{OrbUni::_type,
+                        OrbColorComponent::type_unset,
+                        {
+                            {OrbColorComponent::type_hue, OrbColorComponent::_UTF_type_hue},
+                            {OrbColorComponent::type_saturation, OrbColorComponent::_UTF_type_saturation},
+                            {OrbColorComponent::type_brightness, OrbColorComponent::_UTF_type_brightness},
+                        }};
+constexpr Keywords affect{OrbUni::_affect,
+                          AbsentReadsAs(OrbColorComponent::affect_both),
+                          {
+                              {OrbColorComponent::affect_both, OrbUni::_both},
+                              {OrbColorComponent::affect_main, OrbUni::_main},
+                              {OrbColorComponent::affect_secondary, OrbUni::_secondary},
+                              {OrbColorComponent::affect_stroke, OrbUni::_stroke},
+                              {OrbColorComponent::affect_fill, OrbUni::_fill},
+                          }};
+constexpr Double low{OrbUni::_low};
+constexpr Double high{OrbUni::_high};
+constexpr Double missing{OrbColorComponent::_UTF_missing};
 
-constexpr Keyword<OrbColorComponent::ENUM_affect> affects[] = {
-    {OrbColorComponent::affect_both, OrbUni::_both},           {OrbColorComponent::affect_main, OrbUni::_main},
-    {OrbColorComponent::affect_secondary, OrbUni::_secondary}, {OrbColorComponent::affect_stroke, OrbUni::_stroke},
-    {OrbColorComponent::affect_fill, OrbUni::_fill},
-};
+using Attributes = AttributeList<type, affect, low, high, missing>;
 
 } // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbColorComponent>() {
+  return elementDescription<OrbColorComponent, DerivedFrom<CTAesthetic>, Attributes>;
+}
 
 OrbColorComponent::OrbColorComponent(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
 OrbColorComponent::~OrbColorComponent() = default;
 
-OrbColorComponent::ENUM_type OrbColorComponent::getType() const {
-  return readKeyword(*this, OrbUni::_type, types, type_unset);
-}
-void OrbColorComponent::setType(ENUM_type type) { writeKeyword(*this, OrbUni::_type, types, type); }
-bool OrbColorComponent::isTypePresent() const { return isPresent(*this, OrbUni::_type); }
-void OrbColorComponent::removeType() { removeAttribute(*this, OrbUni::_type); }
+OrbColorComponent::ENUM_type OrbColorComponent::getType() const { return type.get(*this); }
+void OrbColorComponent::setType(ENUM_type value) { type.set(*this, value); }
+bool OrbColorComponent::isTypePresent() const { return type.isPresent(*this); }
+void OrbColorComponent::removeType() { type.remove(*this); }
 
-OrbColorComponent::ENUM_affect OrbColorComponent::getAffect() const {
-  return readKeyword(*this, OrbUni::_affect, affects, affect_both);
-}
-void OrbColorComponent::setAffect(ENUM_affect affect) { writeKeyword(*this, OrbUni::_affect, affects, affect); }
-void OrbColorComponent::removeAffect() { removeAttribute(*this, OrbUni::_affect); }
+OrbColorComponent::ENUM_affect OrbColorComponent::getAffect() const { return affect.get(*this); }
+void OrbColorComponent::setAffect(ENUM_affect value) { affect.set(*this, value); }
+void OrbColorComponent::removeAffect() { affect.remove(*this); }
 
-double OrbColorComponent::getLow() const { return readDouble(*this, OrbUni::_low); }
-void OrbColorComponent::setLow(double low) { writeDouble(*this, OrbUni::_low, low); }
-void OrbColorComponent::removeLow() { removeAttribute(*this, OrbUni::_low); }
+double OrbColorComponent::getLow() const { return low.get(*this); }
+void OrbColorComponent::setLow(double value) { low.set(*this, value); }
+void OrbColorComponent::removeLow() { low.remove(*this); }
 
-double OrbColorComponent::getHigh() const { return readDouble(*this, OrbUni::_high); }
-void OrbColorComponent::setHigh(double high) { writeDouble(*this, OrbUni::_high, high); }
-void OrbColorComponent::removeHigh() { removeAttribute(*this, OrbUni::_high); }
+double OrbColorComponent::getHigh() const { return high.get(*this); }
+void OrbColorComponent::setHigh(double value) { high.set(*this, value); }
+void OrbColorComponent::removeHigh() { high.remove(*this); }
 
-double OrbColorComponent::getMissing() const { return readDouble(*this, _UTF_missing); }
-void OrbColorComponent::setMissing(double missing) { writeDouble(*this, _UTF_missing, missing); }
-bool OrbColorComponent::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbColorComponent::removeMissing() { removeAttribute(*this, _UTF_missing); }
+double OrbColorComponent::getMissing() const { return missing.get(*this); }
+void OrbColorComponent::setMissing(double value) { missing.set(*this, value); }
+bool OrbColorComponent::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbColorComponent::removeMissing() { missing.remove(*this); }

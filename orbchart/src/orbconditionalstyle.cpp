@@ -10,6 +10,20 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Id id;
+constexpr Text when{OrbUni::_when};
+constexpr Reference<OrbStyle> style{OrbUni::_style};
+
+using Attributes = AttributeList<id, when, style>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbConditionalStyle>() {
+  return elementDescription<OrbConditionalStyle, Attributes>;
+}
+
 OrbConditionalStyle::OrbConditionalStyle(DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbConditionalStyle::OrbConditionalStyle(DOMElement* element, const XMLCh* when, const OrbStyle& style) :
     OrbConditionalStyle(element) {
@@ -18,12 +32,12 @@ OrbConditionalStyle::OrbConditionalStyle(DOMElement* element, const XMLCh* when,
 }
 OrbConditionalStyle::~OrbConditionalStyle() = default;
 
-const XMLCh* OrbConditionalStyle::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbConditionalStyle::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbConditionalStyle::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbConditionalStyle::getId() const { return id.get(*this); }
+void OrbConditionalStyle::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbConditionalStyle::removeId() { id.remove(*this); }
 
-const XMLCh* OrbConditionalStyle::getWhen() const { return GetAttribute(OrbUni::_when); }
-void OrbConditionalStyle::setWhen(const XMLCh* when) { SetAttribute(OrbUni::_when, when); }
+const XMLCh* OrbConditionalStyle::getWhen() const { return when.get(*this); }
+void OrbConditionalStyle::setWhen(const XMLCh* value) { when.set(*this, value); }
 
-OrbStyle* OrbConditionalStyle::getStyle() const { return readReference<OrbStyle>(*this, OrbUni::_style); }
-void OrbConditionalStyle::setStyle(const OrbStyle& style) { writeReference(*this, OrbUni::_style, style); }
+OrbStyle* OrbConditionalStyle::getStyle() const { return style.get(*this); }
+void OrbConditionalStyle::setStyle(const OrbStyle& target) { style.set(*this, target); }

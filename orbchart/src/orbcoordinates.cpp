@@ -10,7 +10,21 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbCoordinates::Children : ChildFamilies<FamilyList<OrbDimension, OrbDimensionReference>> {};
+namespace {
+
+constexpr Id id;
+
+using Attributes = AttributeList<id>;
+
+using Families = ChildFamilies<FamilyList<OrbDimension, OrbDimensionReference>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbCoordinates>() {
+  return elementDescription<OrbCoordinates, Attributes, Families>;
+}
+
+struct OrbCoordinates::Children : Families {};
 
 OrbCoordinates::OrbCoordinates(DOMElement* element) : OrbBaseElement(element), children_(new Children) { init(); }
 OrbCoordinates::OrbCoordinates(DOMElement* element, const XMLCh* id) :
@@ -26,9 +40,9 @@ void OrbCoordinates::init() {
   bind(*this);
 }
 
-const XMLCh* OrbCoordinates::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbCoordinates::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbCoordinates::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbCoordinates::getId() const { return id.get(*this); }
+void OrbCoordinates::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbCoordinates::removeId() { id.remove(*this); }
 
 OrbDimension* OrbCoordinates::addDimension() { return children_->add<OrbDimension>(*this, atEnd); }
 std::vector<OrbDimension*> OrbCoordinates::getDimensions() const { return children_->all<OrbDimension>(); }

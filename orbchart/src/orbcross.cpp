@@ -7,7 +7,21 @@
 
 using namespace orbchart;
 
-struct OrbCross::Children : ChildFamilies<AlgebraOperands> {};
+namespace {
+
+constexpr Id id;
+
+using Attributes = AttributeList<id>;
+
+using Families = ChildFamilies<AlgebraOperandsWithoutIds>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbCross>() {
+  return elementDescription<OrbCross, Attributes, Families>;
+}
+
+struct OrbCross::Children : Families {};
 
 OrbCross::OrbCross(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -15,21 +29,21 @@ OrbCross::OrbCross(xercesc::DOMElement* element) : OrbBaseElement(element), chil
 }
 OrbCross::~OrbCross() = default;
 
-const XMLCh* OrbCross::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbCross::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbCross::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbCross::getId() const { return id.get(*this); }
+void OrbCross::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbCross::removeId() { id.remove(*this); }
 
 OrbBlend* OrbCross::addBlend() { return children_->add<OrbBlend>(*this, atEnd); }
 std::vector<OrbBlend*> OrbCross::getBlends() const { return children_->all<OrbBlend>(); }
-unsigned int OrbCross::removeBlends() { return children_->removeAll<OrbBlend>(*this, Ids::strip); }
+unsigned int OrbCross::removeBlends() { return children_->removeAll<OrbBlend>(*this); }
 
 OrbCross* OrbCross::addCross() { return children_->add<OrbCross>(*this, atEnd); }
 std::vector<OrbCross*> OrbCross::getCrosss() const { return children_->all<OrbCross>(); }
-unsigned int OrbCross::removeCrosss() { return children_->removeAll<OrbCross>(*this, Ids::strip); }
+unsigned int OrbCross::removeCrosss() { return children_->removeAll<OrbCross>(*this); }
 
 OrbNest* OrbCross::addNest() { return children_->add<OrbNest>(*this, atEnd); }
 std::vector<OrbNest*> OrbCross::getNests() const { return children_->all<OrbNest>(); }
-unsigned int OrbCross::removeNests() { return children_->removeAll<OrbNest>(*this, Ids::strip); }
+unsigned int OrbCross::removeNests() { return children_->removeAll<OrbNest>(*this); }
 
 OrbVariableReference* OrbCross::addVariableReference() { return children_->add<OrbVariableReference>(*this, atEnd); }
 std::vector<OrbVariableReference*> OrbCross::getVariableReferences() const {

@@ -7,13 +7,26 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Text cycle{OrbUni::_cycle};
+constexpr Text missing{OrbDash::_UTF_missing};
+
+using Attributes = AttributeList<cycle, missing>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbDash>() {
+  return elementDescription<OrbDash, DerivedFrom<CTAesthetic>, Attributes>;
+}
+
 OrbDash::OrbDash(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
 OrbDash::~OrbDash() = default;
 
-bool OrbDash::isCyclePresent() const { return isPresent(*this, OrbUni::_cycle); }
-void OrbDash::removeCycle() { removeAttribute(*this, OrbUni::_cycle); }
+bool OrbDash::isCyclePresent() const { return cycle.isPresent(*this); }
+void OrbDash::removeCycle() { cycle.remove(*this); }
 
-const XMLCh* OrbDash::getMissing() const { return GetAttribute(_UTF_missing); }
-void OrbDash::setMissing(const XMLCh* missing) { SetAttribute(_UTF_missing, missing); }
-bool OrbDash::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbDash::removeMissing() { removeAttribute(*this, _UTF_missing); }
+const XMLCh* OrbDash::getMissing() const { return missing.get(*this); }
+void OrbDash::setMissing(const XMLCh* value) { missing.set(*this, value); }
+bool OrbDash::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbDash::removeMissing() { missing.remove(*this); }

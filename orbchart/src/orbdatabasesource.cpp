@@ -8,7 +8,30 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbDatabaseSource::Children : ChildFamilies<SourceFamilies> {};
+namespace {
+
+constexpr Id id;
+constexpr auto& missing = missingOf<OrbDatabaseSource>;
+constexpr Boolean filterToMissing{OrbDatabaseSource::_UTF_filterToMissing};
+constexpr Text url{OrbUni::_url};
+constexpr Text driver{OrbUni::_driver};
+constexpr Text user{OrbUni::_user};
+constexpr Text password{OrbUni::_password};
+constexpr Text table{OrbUni::_table};
+constexpr Text where{OrbUni::_where};
+constexpr Text query{OrbUni::_query};
+
+using Attributes = AttributeList<id, missing, filterToMissing, url, driver, user, password, table, where, query>;
+
+using Families = SourceFamilies;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbDatabaseSource>() {
+  return elementDescription<OrbDatabaseSource, Attributes, Families>;
+}
+
+struct OrbDatabaseSource::Children : Families {};
 
 OrbDatabaseSource::OrbDatabaseSource(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -17,53 +40,47 @@ OrbDatabaseSource::OrbDatabaseSource(DOMElement* element) : OrbBaseElement(eleme
 OrbDatabaseSource::OrbDatabaseSource(DOMElement* element, const XMLCh* id) : OrbDatabaseSource(element) { setId(id); }
 OrbDatabaseSource::~OrbDatabaseSource() = default;
 
-const XMLCh* OrbDatabaseSource::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbDatabaseSource::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbDatabaseSource::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbDatabaseSource::getId() const { return id.get(*this); }
+void OrbDatabaseSource::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbDatabaseSource::removeId() { id.remove(*this); }
 
-OrbDatabaseSource::ENUM_missing OrbDatabaseSource::getMissing() const {
-  return readKeyword(*this, _UTF_missing, missingKeywords<OrbDatabaseSource>, missing_unset);
-}
-void OrbDatabaseSource::setMissing(ENUM_missing missing) {
-  writeKeyword(*this, _UTF_missing, missingKeywords<OrbDatabaseSource>, missing);
-}
-bool OrbDatabaseSource::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbDatabaseSource::removeMissing() { removeAttribute(*this, _UTF_missing); }
+OrbDatabaseSource::ENUM_missing OrbDatabaseSource::getMissing() const { return missing.get(*this); }
+void OrbDatabaseSource::setMissing(ENUM_missing value) { missing.set(*this, value); }
+bool OrbDatabaseSource::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbDatabaseSource::removeMissing() { missing.remove(*this); }
 
-bool OrbDatabaseSource::getFilterToMissing() const { return readBoolean(*this, _UTF_filterToMissing); }
-void OrbDatabaseSource::setFilterToMissing(bool filterToMissing) {
-  writeBoolean(*this, _UTF_filterToMissing, filterToMissing);
-}
-bool OrbDatabaseSource::isFilterToMissingPresent() const { return isPresent(*this, _UTF_filterToMissing); }
-void OrbDatabaseSource::removeFilterToMissing() { removeAttribute(*this, _UTF_filterToMissing); }
+bool OrbDatabaseSource::getFilterToMissing() const { return filterToMissing.get(*this); }
+void OrbDatabaseSource::setFilterToMissing(bool value) { filterToMissing.set(*this, value); }
+bool OrbDatabaseSource::isFilterToMissingPresent() const { return filterToMissing.isPresent(*this); }
+void OrbDatabaseSource::removeFilterToMissing() { filterToMissing.remove(*this); }
 
-const XMLCh* OrbDatabaseSource::getUrl() const { return GetAttribute(OrbUni::_url); }
-void OrbDatabaseSource::setUrl(const XMLCh* url) { SetAttribute(OrbUni::_url, url); }
-void OrbDatabaseSource::removeUrl() { removeAttribute(*this, OrbUni::_url); }
+const XMLCh* OrbDatabaseSource::getUrl() const { return url.get(*this); }
+void OrbDatabaseSource::setUrl(const XMLCh* value) { url.set(*this, value); }
+void OrbDatabaseSource::removeUrl() { url.remove(*this); }
 
-const XMLCh* OrbDatabaseSource::getDriver() const { return GetAttribute(OrbUni::_driver); }
-void OrbDatabaseSource::setDriver(const XMLCh* driver) { SetAttribute(OrbUni::_driver, driver); }
-void OrbDatabaseSource::removeDriver() { removeAttribute(*this, OrbUni::_driver); }
+const XMLCh* OrbDatabaseSource::getDriver() const { return driver.get(*this); }
+void OrbDatabaseSource::setDriver(const XMLCh* value) { driver.set(*this, value); }
+void OrbDatabaseSource::removeDriver() { driver.remove(*this); }
 
-const XMLCh* OrbDatabaseSource::getUser() const { return GetAttribute(OrbUni::_user); }
-void OrbDatabaseSource::setUser(const XMLCh* user) { SetAttribute(OrbUni::_user, user); }
-void OrbDatabaseSource::removeUser() { removeAttribute(*this, OrbUni::_user); }
+const XMLCh* OrbDatabaseSource::getUser() const { return user.get(*this); }
+void OrbDatabaseSource::setUser(const XMLCh* value) { user.set(*this, value); }
+void OrbDatabaseSource::removeUser() { user.remove(*this); }
 
-const XMLCh* OrbDatabaseSource::getPassword() const { return GetAttribute(OrbUni::_password); }
-void OrbDatabaseSource::setPassword(const XMLCh* password) { SetAttribute(OrbUni::_password, password); }
-void OrbDatabaseSource::removePassword() { removeAttribute(*this, OrbUni::_password); }
+const XMLCh* OrbDatabaseSource::getPassword() const { return password.get(*this); }
+void OrbDatabaseSource::setPassword(const XMLCh* value) { password.set(*this, value); }
+void OrbDatabaseSource::removePassword() { password.remove(*this); }
 
-const XMLCh* OrbDatabaseSource::getTable() const { return GetAttribute(OrbUni::_table); }
-void OrbDatabaseSource::setTable(const XMLCh* table) { SetAttribute(OrbUni::_table, table); }
-void OrbDatabaseSource::removeTable() { removeAttribute(*this, OrbUni::_table); }
+const XMLCh* OrbDatabaseSource::getTable() const { return table.get(*this); }
+void OrbDatabaseSource::setTable(const XMLCh* value) { table.set(*this, value); }
+void OrbDatabaseSource::removeTable() { table.remove(*this); }
 
-const XMLCh* OrbDatabaseSource::getWhere() const { return GetAttribute(OrbUni::_where); }
-void OrbDatabaseSource::setWhere(const XMLCh* where) { SetAttribute(OrbUni::_where, where); }
-void OrbDatabaseSource::removeWhere() { removeAttribute(*this, OrbUni::_where); }
+const XMLCh* OrbDatabaseSource::getWhere() const { return where.get(*this); }
+void OrbDatabaseSource::setWhere(const XMLCh* value) { where.set(*this, value); }
+void OrbDatabaseSource::removeWhere() { where.remove(*this); }
 
-const XMLCh* OrbDatabaseSource::getQuery() const { return GetAttribute(OrbUni::_query); }
-void OrbDatabaseSource::setQuery(const XMLCh* query) { SetAttribute(OrbUni::_query, query); }
-void OrbDatabaseSource::removeQuery() { removeAttribute(*this, OrbUni::_query); }
+const XMLCh* OrbDatabaseSource::getQuery() const { return query.get(*this); }
+void OrbDatabaseSource::setQuery(const XMLCh* value) { query.set(*this, value); }
+void OrbDatabaseSource::removeQuery() { query.remove(*this); }
 
 OrbAggregate* OrbDatabaseSource::addAggregate() { return children_->add<OrbAggregate>(*this, AfterSourceAggregates{}); }
 OrbAggregate* OrbDatabaseSource::getAggregate() const { return children_->first<OrbAggregate>(); }

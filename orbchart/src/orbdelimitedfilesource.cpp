@@ -8,7 +8,30 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbDelimitedFileSource::Children : ChildFamilies<SourceFamilies> {};
+namespace {
+
+constexpr Id id;
+constexpr auto& missing = missingOf<OrbDelimitedFileSource>;
+constexpr Boolean filterToMissing{OrbDelimitedFileSource::_UTF_filterToMissing};
+constexpr Text fileName{OrbUni::_fileName};
+constexpr Text delimiter{OrbUni::_delimiter};
+constexpr Boolean header{OrbUni::_header};
+constexpr Text genericVariableName{OrbDelimitedFileSource::_UTF_genericVariableName};
+constexpr Text replaceInvalidChar{OrbDelimitedFileSource::_UTF_replaceInvalidChar};
+constexpr Text encoding{OrbDelimitedFileSource::_UTF_encoding};
+
+using Attributes = AttributeList<id, missing, filterToMissing, fileName, delimiter, header, genericVariableName,
+                                 replaceInvalidChar, encoding>;
+
+using Families = SourceFamilies;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbDelimitedFileSource>() {
+  return elementDescription<OrbDelimitedFileSource, Attributes, Families>;
+}
+
+struct OrbDelimitedFileSource::Children : Families {};
 
 OrbDelimitedFileSource::OrbDelimitedFileSource(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -19,56 +42,46 @@ OrbDelimitedFileSource::OrbDelimitedFileSource(DOMElement* element, const XMLCh*
 }
 OrbDelimitedFileSource::~OrbDelimitedFileSource() = default;
 
-const XMLCh* OrbDelimitedFileSource::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbDelimitedFileSource::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbDelimitedFileSource::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbDelimitedFileSource::getId() const { return id.get(*this); }
+void OrbDelimitedFileSource::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbDelimitedFileSource::removeId() { id.remove(*this); }
 
-OrbDelimitedFileSource::ENUM_missing OrbDelimitedFileSource::getMissing() const {
-  return readKeyword(*this, _UTF_missing, missingKeywords<OrbDelimitedFileSource>, missing_unset);
-}
-void OrbDelimitedFileSource::setMissing(ENUM_missing missing) {
-  writeKeyword(*this, _UTF_missing, missingKeywords<OrbDelimitedFileSource>, missing);
-}
-bool OrbDelimitedFileSource::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbDelimitedFileSource::removeMissing() { removeAttribute(*this, _UTF_missing); }
+OrbDelimitedFileSource::ENUM_missing OrbDelimitedFileSource::getMissing() const { return missing.get(*this); }
+void OrbDelimitedFileSource::setMissing(ENUM_missing value) { missing.set(*this, value); }
+bool OrbDelimitedFileSource::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbDelimitedFileSource::removeMissing() { missing.remove(*this); }
 
-bool OrbDelimitedFileSource::getFilterToMissing() const { return readBoolean(*this, _UTF_filterToMissing); }
-void OrbDelimitedFileSource::setFilterToMissing(bool filterToMissing) {
-  writeBoolean(*this, _UTF_filterToMissing, filterToMissing);
-}
-bool OrbDelimitedFileSource::isFilterToMissingPresent() const { return isPresent(*this, _UTF_filterToMissing); }
-void OrbDelimitedFileSource::removeFilterToMissing() { removeAttribute(*this, _UTF_filterToMissing); }
+bool OrbDelimitedFileSource::getFilterToMissing() const { return filterToMissing.get(*this); }
+void OrbDelimitedFileSource::setFilterToMissing(bool value) { filterToMissing.set(*this, value); }
+bool OrbDelimitedFileSource::isFilterToMissingPresent() const { return filterToMissing.isPresent(*this); }
+void OrbDelimitedFileSource::removeFilterToMissing() { filterToMissing.remove(*this); }
 
-const XMLCh* OrbDelimitedFileSource::getFileName() const { return GetAttribute(OrbUni::_fileName); }
-void OrbDelimitedFileSource::setFileName(const XMLCh* fileName) { SetAttribute(OrbUni::_fileName, fileName); }
-void OrbDelimitedFileSource::removeFileName() { removeAttribute(*this, OrbUni::_fileName); }
+const XMLCh* OrbDelimitedFileSource::getFileName() const { return fileName.get(*this); }
+void OrbDelimitedFileSource::setFileName(const XMLCh* value) { fileName.set(*this, value); }
+void OrbDelimitedFileSource::removeFileName() { fileName.remove(*this); }
 
-const XMLCh* OrbDelimitedFileSource::getDelimiter() const { return GetAttribute(OrbUni::_delimiter); }
-void OrbDelimitedFileSource::setDelimiter(const XMLCh* delimiter) { SetAttribute(OrbUni::_delimiter, delimiter); }
-void OrbDelimitedFileSource::removeDelimiter() { removeAttribute(*this, OrbUni::_delimiter); }
+const XMLCh* OrbDelimitedFileSource::getDelimiter() const { return delimiter.get(*this); }
+void OrbDelimitedFileSource::setDelimiter(const XMLCh* value) { delimiter.set(*this, value); }
+void OrbDelimitedFileSource::removeDelimiter() { delimiter.remove(*this); }
 
-bool OrbDelimitedFileSource::getHeader() const { return readBoolean(*this, OrbUni::_header); }
-void OrbDelimitedFileSource::setHeader(bool header) { writeBoolean(*this, OrbUni::_header, header); }
-void OrbDelimitedFileSource::removeHeader() { removeAttribute(*this, OrbUni::_header); }
+bool OrbDelimitedFileSource::getHeader() const { return header.get(*this); }
+void OrbDelimitedFileSource::setHeader(bool value) { header.set(*this, value); }
+void OrbDelimitedFileSource::removeHeader() { header.remove(*this); }
 
-const XMLCh* OrbDelimitedFileSource::getGenericVariableName() const { return GetAttribute(_UTF_genericVariableName); }
-void OrbDelimitedFileSource::setGenericVariableName(const XMLCh* genericVariableName) {
-  SetAttribute(_UTF_genericVariableName, genericVariableName);
-}
-bool OrbDelimitedFileSource::isGenericVariableNamePresent() const { return isPresent(*this, _UTF_genericVariableName); }
-void OrbDelimitedFileSource::removeGenericVariableName() { removeAttribute(*this, _UTF_genericVariableName); }
+const XMLCh* OrbDelimitedFileSource::getGenericVariableName() const { return genericVariableName.get(*this); }
+void OrbDelimitedFileSource::setGenericVariableName(const XMLCh* value) { genericVariableName.set(*this, value); }
+bool OrbDelimitedFileSource::isGenericVariableNamePresent() const { return genericVariableName.isPresent(*this); }
+void OrbDelimitedFileSource::removeGenericVariableName() { genericVariableName.remove(*this); }
 
-const XMLCh* OrbDelimitedFileSource::getReplaceInvalidChar() const { return GetAttribute(_UTF_replaceInvalidChar); }
-void OrbDelimitedFileSource::setReplaceInvalidChar(const XMLCh* replaceInvalidChar) {
-  SetAttribute(_UTF_replaceInvalidChar, replaceInvalidChar);
-}
-bool OrbDelimitedFileSource::isReplaceInvalidCharPresent() const { return isPresent(*this, _UTF_replaceInvalidChar); }
-void OrbDelimitedFileSource::removeReplaceInvalidChar() { removeAttribute(*this, _UTF_replaceInvalidChar); }
+const XMLCh* OrbDelimitedFileSource::getReplaceInvalidChar() const { return replaceInvalidChar.get(*this); }
+void OrbDelimitedFileSource::setReplaceInvalidChar(const XMLCh* value) { replaceInvalidChar.set(*this, value); }
+bool OrbDelimitedFileSource::isReplaceInvalidCharPresent() const { return replaceInvalidChar.isPresent(*this); }
+void OrbDelimitedFileSource::removeReplaceInvalidChar() { replaceInvalidChar.remove(*this); }
 
-const XMLCh* OrbDelimitedFileSource::getEncoding() const { return GetAttribute(_UTF_encoding); }
-void OrbDelimitedFileSource::setEncoding(const XMLCh* encoding) { SetAttribute(_UTF_encoding, encoding); }
-bool OrbDelimitedFileSource::isEncodingPresent() const { return isPresent(*this, _UTF_encoding); }
-void OrbDelimitedFileSource::removeEncoding() { removeAttribute(*this, _UTF_encoding); }
+const XMLCh* OrbDelimitedFileSource::getEncoding() const { return encoding.get(*this); }
+void OrbDelimitedFileSource::setEncoding(const XMLCh* value) { encoding.set(*this, value); }
+bool OrbDelimitedFileSource::isEncodingPresent() const { return encoding.isPresent(*this); }
+void OrbDelimitedFileSource::removeEncoding() { encoding.remove(*this); }
 
 OrbAggregate* OrbDelimitedFileSource::addAggregate() {
   return children_->add<OrbAggregate>(*this, AfterSourceAggregates{});

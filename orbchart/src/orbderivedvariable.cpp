@@ -8,17 +8,30 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Text value{OrbUni::_value};
+constexpr Text language{OrbDerivedVariable::_UTF_language};
+
+using Attributes = AttributeList<value, language>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbDerivedVariable>() {
+  return elementDescription<OrbDerivedVariable, DerivedFrom<CTVariableType>, Attributes>;
+}
+
 OrbDerivedVariable::OrbDerivedVariable(DOMElement* element) : CTVariableType(element) { bind(*this); }
 OrbDerivedVariable::OrbDerivedVariable(DOMElement* element, const XMLCh* id) : CTVariableType(element, id) {
   bind(*this);
 }
 OrbDerivedVariable::~OrbDerivedVariable() = default;
 
-const XMLCh* OrbDerivedVariable::getValue() const { return GetAttribute(OrbUni::_value); }
-void OrbDerivedVariable::setValue(const XMLCh* value) { SetAttribute(OrbUni::_value, value); }
-void OrbDerivedVariable::removeValue() { removeAttribute(*this, OrbUni::_value); }
+const XMLCh* OrbDerivedVariable::getValue() const { return value.get(*this); }
+void OrbDerivedVariable::setValue(const XMLCh* newValue) { value.set(*this, newValue); }
+void OrbDerivedVariable::removeValue() { value.remove(*this); }
 
-const XMLCh* OrbDerivedVariable::getLanguage() const { return GetAttribute(_UTF_language); }
-void OrbDerivedVariable::setLanguage(const XMLCh* language) { SetAttribute(_UTF_language, language); }
-bool OrbDerivedVariable::isLanguagePresent() const { return isPresent(*this, _UTF_language); }
-void OrbDerivedVariable::removeLanguage() { removeAttribute(*this, _UTF_language); }
+const XMLCh* OrbDerivedVariable::getLanguage() const { return language.get(*this); }
+void OrbDerivedVariable::setLanguage(const XMLCh* value) { language.set(*this, value); }
+bool OrbDerivedVariable::isLanguagePresent() const { return language.isPresent(*this); }
+void OrbDerivedVariable::removeLanguage() { language.remove(*this); }

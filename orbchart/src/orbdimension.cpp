@@ -14,12 +14,35 @@ using namespace orbchart;
 
 namespace {
 
+constexpr Id id;
+constexpr ReferenceTo<OrbBaseElement, OrbIntervalDomain, OrbCategoricalDomain> domain{OrbUni::_domain};
+constexpr Boolean unionDomain{OrbUni::_unionDomain};
+constexpr Boolean niceUpperMapping{OrbUni::_niceUpperMapping};
+constexpr Boolean niceLowerMapping{OrbUni::_niceLowerMapping};
+constexpr Text upperMargin{OrbUni::_upperMargin};
+constexpr Text lowerMargin{OrbUni::_lowerMargin};
+constexpr VariableReference clusterVariable{OrbUni::_clusterVariable};
+constexpr Text clusterGap{OrbUni::_clusterGap};
+constexpr Boolean facetsShareScale{OrbDimension::_UTF_facetsShareScale};
+constexpr ModifierReference domainModifier{OrbDimension::_UTF_domainModifier};
+
+using Attributes = AttributeList<id, domain, unionDomain, niceUpperMapping, niceLowerMapping, upperMargin, lowerMargin,
+                                 clusterVariable, clusterGap, facetsShareScale, domainModifier>;
+
 // What the language has after them has no class here.
 using AfterScales = FamilyList<>;
 
+constexpr OnlyOne oneScale{"Scale", "Dimension"};
+
+using Families = ChildFamilies<FamilyList<StripsIds<Limited<OrbScale, oneScale>>>>;
+
 } // namespace
 
-struct OrbDimension::Children : ChildFamilies<FamilyList<OrbScale>> {};
+template <> const ElementDescription& orbchart::descriptionOf<OrbDimension>() {
+  return elementDescription<OrbDimension, Attributes, Families>;
+}
+
+struct OrbDimension::Children : Families {};
 
 OrbDimension::OrbDimension(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -27,67 +50,55 @@ OrbDimension::OrbDimension(xercesc::DOMElement* element) : OrbBaseElement(elemen
 }
 OrbDimension::~OrbDimension() = default;
 
-const XMLCh* OrbDimension::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbDimension::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbDimension::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbDimension::getId() const { return id.get(*this); }
+void OrbDimension::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbDimension::removeId() { id.remove(*this); }
 
-OrbBaseElement* OrbDimension::getDomain() const {
-  return readReferenceTo<OrbBaseElement, OrbIntervalDomain, OrbCategoricalDomain>(*this, OrbUni::_domain);
-}
-void OrbDimension::setDomain(const OrbIntervalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
-void OrbDimension::setDomain(const OrbCategoricalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
-void OrbDimension::removeDomain() { removeAttribute(*this, OrbUni::_domain); }
+OrbBaseElement* OrbDimension::getDomain() const { return domain.get(*this); }
+void OrbDimension::setDomain(const OrbIntervalDomain& target) { domain.set(*this, target); }
+void OrbDimension::setDomain(const OrbCategoricalDomain& target) { domain.set(*this, target); }
+void OrbDimension::removeDomain() { domain.remove(*this); }
 
-bool OrbDimension::getUnionDomain() const { return readBoolean(*this, OrbUni::_unionDomain); }
-void OrbDimension::setUnionDomain(bool unionDomain) { writeBoolean(*this, OrbUni::_unionDomain, unionDomain); }
-void OrbDimension::removeUnionDomain() { removeAttribute(*this, OrbUni::_unionDomain); }
+bool OrbDimension::getUnionDomain() const { return unionDomain.get(*this); }
+void OrbDimension::setUnionDomain(bool value) { unionDomain.set(*this, value); }
+void OrbDimension::removeUnionDomain() { unionDomain.remove(*this); }
 
-bool OrbDimension::getNiceUpperMapping() const { return readBoolean(*this, OrbUni::_niceUpperMapping); }
-void OrbDimension::setNiceUpperMapping(bool niceUpperMapping) {
-  writeBoolean(*this, OrbUni::_niceUpperMapping, niceUpperMapping);
-}
-void OrbDimension::removeNiceUpperMapping() { removeAttribute(*this, OrbUni::_niceUpperMapping); }
+bool OrbDimension::getNiceUpperMapping() const { return niceUpperMapping.get(*this); }
+void OrbDimension::setNiceUpperMapping(bool value) { niceUpperMapping.set(*this, value); }
+void OrbDimension::removeNiceUpperMapping() { niceUpperMapping.remove(*this); }
 
-bool OrbDimension::getNiceLowerMapping() const { return readBoolean(*this, OrbUni::_niceLowerMapping); }
-void OrbDimension::setNiceLowerMapping(bool niceLowerMapping) {
-  writeBoolean(*this, OrbUni::_niceLowerMapping, niceLowerMapping);
-}
-void OrbDimension::removeNiceLowerMapping() { removeAttribute(*this, OrbUni::_niceLowerMapping); }
+bool OrbDimension::getNiceLowerMapping() const { return niceLowerMapping.get(*this); }
+void OrbDimension::setNiceLowerMapping(bool value) { niceLowerMapping.set(*this, value); }
+void OrbDimension::removeNiceLowerMapping() { niceLowerMapping.remove(*this); }
 
-const XMLCh* OrbDimension::getUpperMargin() const { return GetAttribute(OrbUni::_upperMargin); }
-void OrbDimension::setUpperMargin(const XMLCh* upperMargin) { SetAttribute(OrbUni::_upperMargin, upperMargin); }
-void OrbDimension::removeUpperMargin() { removeAttribute(*this, OrbUni::_upperMargin); }
+const XMLCh* OrbDimension::getUpperMargin() const { return upperMargin.get(*this); }
+void OrbDimension::setUpperMargin(const XMLCh* value) { upperMargin.set(*this, value); }
+void OrbDimension::removeUpperMargin() { upperMargin.remove(*this); }
 
-const XMLCh* OrbDimension::getLowerMargin() const { return GetAttribute(OrbUni::_lowerMargin); }
-void OrbDimension::setLowerMargin(const XMLCh* lowerMargin) { SetAttribute(OrbUni::_lowerMargin, lowerMargin); }
-void OrbDimension::removeLowerMargin() { removeAttribute(*this, OrbUni::_lowerMargin); }
+const XMLCh* OrbDimension::getLowerMargin() const { return lowerMargin.get(*this); }
+void OrbDimension::setLowerMargin(const XMLCh* value) { lowerMargin.set(*this, value); }
+void OrbDimension::removeLowerMargin() { lowerMargin.remove(*this); }
 
-CTVariableType* OrbDimension::getClusterVariable() const { return readVariable(*this, OrbUni::_clusterVariable); }
-void OrbDimension::setClusterVariable(const CTVariableType& variable) {
-  writeReference(*this, OrbUni::_clusterVariable, variable);
-}
-void OrbDimension::removeClusterVariable() { removeAttribute(*this, OrbUni::_clusterVariable); }
+CTVariableType* OrbDimension::getClusterVariable() const { return clusterVariable.get(*this); }
+void OrbDimension::setClusterVariable(const CTVariableType& target) { clusterVariable.set(*this, target); }
+void OrbDimension::removeClusterVariable() { clusterVariable.remove(*this); }
 
-const XMLCh* OrbDimension::getClusterGap() const { return GetAttribute(OrbUni::_clusterGap); }
-void OrbDimension::setClusterGap(const XMLCh* clusterGap) { SetAttribute(OrbUni::_clusterGap, clusterGap); }
-void OrbDimension::removeClusterGap() { removeAttribute(*this, OrbUni::_clusterGap); }
+const XMLCh* OrbDimension::getClusterGap() const { return clusterGap.get(*this); }
+void OrbDimension::setClusterGap(const XMLCh* value) { clusterGap.set(*this, value); }
+void OrbDimension::removeClusterGap() { clusterGap.remove(*this); }
 
-bool OrbDimension::getFacetsShareScale() const { return readBoolean(*this, _UTF_facetsShareScale); }
-void OrbDimension::setFacetsShareScale(bool facetsShareScale) {
-  writeBoolean(*this, _UTF_facetsShareScale, facetsShareScale);
-}
-bool OrbDimension::isFacetsShareScalePresent() const { return isPresent(*this, _UTF_facetsShareScale); }
-void OrbDimension::removeFacetsShareScale() { removeAttribute(*this, _UTF_facetsShareScale); }
+bool OrbDimension::getFacetsShareScale() const { return facetsShareScale.get(*this); }
+void OrbDimension::setFacetsShareScale(bool value) { facetsShareScale.set(*this, value); }
+bool OrbDimension::isFacetsShareScalePresent() const { return facetsShareScale.isPresent(*this); }
+void OrbDimension::removeFacetsShareScale() { facetsShareScale.remove(*this); }
 
-CTModifier* OrbDimension::getDomainModifier() const { return readModifier(*this, _UTF_domainModifier); }
-void OrbDimension::setDomainModifier(const CTModifier& modifier) {
-  writeModifier(*this, _UTF_domainModifier, modifier);
-}
-bool OrbDimension::isDomainModifierPresent() const { return isPresent(*this, _UTF_domainModifier); }
-void OrbDimension::removeDomainModifier() { removeAttribute(*this, _UTF_domainModifier); }
+CTModifier* OrbDimension::getDomainModifier() const { return domainModifier.get(*this); }
+void OrbDimension::setDomainModifier(const CTModifier& target) { domainModifier.setAmong(*this, target); }
+bool OrbDimension::isDomainModifierPresent() const { return domainModifier.isPresent(*this); }
+void OrbDimension::removeDomainModifier() { domainModifier.remove(*this); }
 
 OrbScale* OrbDimension::addScale(OrbScale::ENUM_method method) {
-  return children_->add<OrbScale>(*this, OnlyOne("Scale", "Dimension"), AfterScales{}, method);
+  return children_->add<OrbScale>(*this, AfterScales{}, method);
 }
 OrbScale* OrbDimension::getScale() const { return children_->first<OrbScale>(); }
-unsigned int OrbDimension::removeScales() { return children_->removeAll<OrbScale>(*this, Ids::strip); }
+unsigned int OrbDimension::removeScales() { return children_->removeAll<OrbScale>(*this); }

@@ -9,6 +9,18 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Reference<OrbDimension> ref{OrbDimensionReference::_ref};
+
+using Attributes = AttributeList<ref>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbDimensionReference>() {
+  return elementDescription<OrbDimensionReference, Attributes>;
+}
+
 OrbDimensionReference::OrbDimensionReference(DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbDimensionReference::OrbDimensionReference(DOMElement* element, const OrbDimension& dimension) :
     OrbDimensionReference(element) {
@@ -16,6 +28,6 @@ OrbDimensionReference::OrbDimensionReference(DOMElement* element, const OrbDimen
 }
 OrbDimensionReference::~OrbDimensionReference() = default;
 
-OrbDimension* OrbDimensionReference::getRef() const { return readReference<OrbDimension>(*this, _ref); }
-void OrbDimensionReference::setRef(const OrbDimension& dimension) { writeReference(*this, _ref, dimension); }
-void OrbDimensionReference::removeRef() { removeAttribute(*this, _ref); }
+OrbDimension* OrbDimensionReference::getRef() const { return ref.get(*this); }
+void OrbDimensionReference::setRef(const OrbDimension& target) { ref.set(*this, target); }
+void OrbDimensionReference::removeRef() { ref.remove(*this); }

@@ -1,16 +1,27 @@
 // A reference to a domain.
 #include "orbdomainreference.h"
 
-#include "chartstring.h"
+#include "attribute.h"
 #include "loading.h"
 #include "orbcategoricaldomain.h"
 #include "orbintervaldomain.h"
 #include "orbuni.h"
-#include "raise.h"
 #include "reference.h"
 
 using namespace orbchart;
 using xercesc::DOMElement;
+
+namespace {
+
+constexpr ReferenceTo<OrbBaseElement, OrbCategoricalDomain, OrbIntervalDomain> ref{OrbUni::_ref};
+
+using Attributes = AttributeList<ref>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbDomainReference>() {
+  return elementDescription<OrbDomainReference, Attributes>;
+}
 
 OrbDomainReference::OrbDomainReference(DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbDomainReference::OrbDomainReference(DOMElement* element, const OrbIntervalDomain& domain) :
@@ -23,12 +34,10 @@ OrbDomainReference::OrbDomainReference(DOMElement* element, const OrbCategorical
 }
 OrbDomainReference::~OrbDomainReference() = default;
 
-// The one reference that raises when it dangles.
+// Unlike most references it raises when it dangles.
 OrbBaseElement* OrbDomainReference::getRef() const {
-  const XMLCh* id = GetAttribute(OrbUni::_ref);
-  if (!doesIdExist(id))
-    raise("Attribute Ref refers to " + ChartString(id).toUTF8() + ", but that element does not exist.");
-  return readReferenceTo<OrbBaseElement, OrbCategoricalDomain, OrbIntervalDomain>(*this, OrbUni::_ref);
+  ref.requireTarget(*this, "Ref");
+  return ref.get(*this);
 }
-void OrbDomainReference::setRef(const OrbIntervalDomain& domain) { writeReference(*this, OrbUni::_ref, domain); }
-void OrbDomainReference::setRef(const OrbCategoricalDomain& domain) { writeReference(*this, OrbUni::_ref, domain); }
+void OrbDomainReference::setRef(const OrbIntervalDomain& target) { ref.set(*this, target); }
+void OrbDomainReference::setRef(const OrbCategoricalDomain& target) { ref.set(*this, target); }

@@ -7,7 +7,21 @@
 
 using namespace orbchart;
 
-struct OrbDot::Children : ChildFamilies<AlgebraOperands> {};
+namespace {
+
+constexpr Id id;
+
+using Attributes = AttributeList<id>;
+
+using Families = ChildFamilies<AlgebraOperands>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbDot>() {
+  return elementDescription<OrbDot, Attributes, Families>;
+}
+
+struct OrbDot::Children : Families {};
 
 OrbDot::OrbDot(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -15,9 +29,9 @@ OrbDot::OrbDot(xercesc::DOMElement* element) : OrbBaseElement(element), children
 }
 OrbDot::~OrbDot() = default;
 
-const XMLCh* OrbDot::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbDot::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbDot::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbDot::getId() const { return id.get(*this); }
+void OrbDot::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbDot::removeId() { id.remove(*this); }
 
 OrbVariableReference* OrbDot::addVariableReference() { return children_->add<OrbVariableReference>(*this, atEnd); }
 std::vector<OrbVariableReference*> OrbDot::getVariableReferences() const {

@@ -10,27 +10,37 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Id id;
+// Their getters look under no key and find nothing.
+constexpr Taking<CTElementType, ReferenceTo<CTElementType>> element{OrbUni::_element};
+constexpr Taking<CTVariableType, ReferenceTo<CTVariableType>> ref{OrbUni::_ref};
+
+using Attributes = AttributeList<id, element, ref>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbElementVariableReference>() {
+  return elementDescription<OrbElementVariableReference, Attributes>;
+}
+
 OrbElementVariableReference::OrbElementVariableReference(xercesc::DOMElement* element) : OrbBaseElement(element) {
   bindLeaf(*this);
 }
 OrbElementVariableReference::~OrbElementVariableReference() = default;
 
-const XMLCh* OrbElementVariableReference::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbElementVariableReference::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbElementVariableReference::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbElementVariableReference::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbElementVariableReference::getId() const { return id.get(*this); }
+void OrbElementVariableReference::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbElementVariableReference::isIdPresent() const { return id.isPresent(*this); }
+void OrbElementVariableReference::removeId() { id.remove(*this); }
 
-// Neither getter finds a wrapper: they look under no key.
-CTElementType* OrbElementVariableReference::getElement() const { return nullptr; }
-void OrbElementVariableReference::setElement(const CTElementType& element) {
-  writeReference(*this, OrbUni::_element, element);
-}
-bool OrbElementVariableReference::isElementPresent() const { return isPresent(*this, OrbUni::_element); }
-void OrbElementVariableReference::removeElement() { removeAttribute(*this, OrbUni::_element); }
+CTElementType* OrbElementVariableReference::getElement() const { return element.get(*this); }
+void OrbElementVariableReference::setElement(const CTElementType& target) { element.set(*this, target); }
+bool OrbElementVariableReference::isElementPresent() const { return element.isPresent(*this); }
+void OrbElementVariableReference::removeElement() { element.remove(*this); }
 
-CTVariableType* OrbElementVariableReference::getRef() const { return nullptr; }
-void OrbElementVariableReference::setRef(const CTVariableType& variable) {
-  writeReference(*this, OrbUni::_ref, variable);
-}
-bool OrbElementVariableReference::isRefPresent() const { return isPresent(*this, OrbUni::_ref); }
-void OrbElementVariableReference::removeRef() { removeAttribute(*this, OrbUni::_ref); }
+CTVariableType* OrbElementVariableReference::getRef() const { return ref.get(*this); }
+void OrbElementVariableReference::setRef(const CTVariableType& target) { ref.set(*this, target); }
+bool OrbElementVariableReference::isRefPresent() const { return ref.isPresent(*this); }
+void OrbElementVariableReference::removeRef() { ref.remove(*this); }

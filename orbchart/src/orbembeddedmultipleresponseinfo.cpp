@@ -7,36 +7,45 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Id id;
+constexpr Text components{OrbEmbeddedMultipleResponseInfo::_UTF_components};
+constexpr Text target{OrbUni::_target};
+constexpr Boolean categoryComponents{OrbEmbeddedMultipleResponseInfo::_UTF_categoryComponents};
+
+using Attributes = AttributeList<id, components, target, categoryComponents>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbEmbeddedMultipleResponseInfo>() {
+  return elementDescription<OrbEmbeddedMultipleResponseInfo, Attributes>;
+}
+
 OrbEmbeddedMultipleResponseInfo::OrbEmbeddedMultipleResponseInfo(xercesc::DOMElement* element) :
     OrbBaseElement(element) {
   bindLeaf(*this);
 }
 OrbEmbeddedMultipleResponseInfo::~OrbEmbeddedMultipleResponseInfo() = default;
 
-const XMLCh* OrbEmbeddedMultipleResponseInfo::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbEmbeddedMultipleResponseInfo::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbEmbeddedMultipleResponseInfo::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbEmbeddedMultipleResponseInfo::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbEmbeddedMultipleResponseInfo::getId() const { return id.get(*this); }
+void OrbEmbeddedMultipleResponseInfo::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbEmbeddedMultipleResponseInfo::isIdPresent() const { return id.isPresent(*this); }
+void OrbEmbeddedMultipleResponseInfo::removeId() { id.remove(*this); }
 
-const XMLCh* OrbEmbeddedMultipleResponseInfo::getComponents() const { return GetAttribute(_UTF_components); }
-void OrbEmbeddedMultipleResponseInfo::setComponents(const XMLCh* components) {
-  SetAttribute(_UTF_components, components);
-}
-bool OrbEmbeddedMultipleResponseInfo::isComponentsPresent() const { return isPresent(*this, _UTF_components); }
-void OrbEmbeddedMultipleResponseInfo::removeComponents() { removeAttribute(*this, _UTF_components); }
+const XMLCh* OrbEmbeddedMultipleResponseInfo::getComponents() const { return components.get(*this); }
+void OrbEmbeddedMultipleResponseInfo::setComponents(const XMLCh* value) { components.set(*this, value); }
+bool OrbEmbeddedMultipleResponseInfo::isComponentsPresent() const { return components.isPresent(*this); }
+void OrbEmbeddedMultipleResponseInfo::removeComponents() { components.remove(*this); }
 
-const XMLCh* OrbEmbeddedMultipleResponseInfo::getTarget() const { return GetAttribute(OrbUni::_target); }
-void OrbEmbeddedMultipleResponseInfo::setTarget(const XMLCh* target) { SetAttribute(OrbUni::_target, target); }
-bool OrbEmbeddedMultipleResponseInfo::isTargetPresent() const { return isPresent(*this, OrbUni::_target); }
-void OrbEmbeddedMultipleResponseInfo::removeTarget() { removeAttribute(*this, OrbUni::_target); }
+const XMLCh* OrbEmbeddedMultipleResponseInfo::getTarget() const { return target.get(*this); }
+void OrbEmbeddedMultipleResponseInfo::setTarget(const XMLCh* value) { target.set(*this, value); }
+bool OrbEmbeddedMultipleResponseInfo::isTargetPresent() const { return target.isPresent(*this); }
+void OrbEmbeddedMultipleResponseInfo::removeTarget() { target.remove(*this); }
 
-bool OrbEmbeddedMultipleResponseInfo::getCategoryComponents() const {
-  return readBoolean(*this, _UTF_categoryComponents);
-}
-void OrbEmbeddedMultipleResponseInfo::setCategoryComponents(bool categoryComponents) {
-  writeBoolean(*this, _UTF_categoryComponents, categoryComponents);
-}
+bool OrbEmbeddedMultipleResponseInfo::getCategoryComponents() const { return categoryComponents.get(*this); }
+void OrbEmbeddedMultipleResponseInfo::setCategoryComponents(bool value) { categoryComponents.set(*this, value); }
 bool OrbEmbeddedMultipleResponseInfo::isCategoryComponentsPresent() const {
-  return isPresent(*this, _UTF_categoryComponents);
+  return categoryComponents.isPresent(*this);
 }
-void OrbEmbeddedMultipleResponseInfo::removeCategoryComponents() { removeAttribute(*this, _UTF_categoryComponents); }
+void OrbEmbeddedMultipleResponseInfo::removeCategoryComponents() { categoryComponents.remove(*this); }

@@ -13,6 +13,12 @@ using xercesc::DOMElement;
 
 namespace {
 
+constexpr Id id;
+constexpr auto& missing = missingOf<OrbEmbeddedSource>;
+constexpr Boolean filterToMissing{OrbEmbeddedSource::_UTF_filterToMissing};
+
+using Attributes = AttributeList<id, missing, filterToMissing>;
+
 using AfterTypes = FamilyList<OrbRow>;
 // A row is a follower of rows: it goes before the one whose wrapper is first.
 using AfterRows = AfterTypes;
@@ -20,10 +26,19 @@ using AfterNames = Joined<FamilyList<OrbTypes>, AfterTypes>;
 using AfterFilters = FamilyList<OrbNames, OrbTypes, OrbRow>;
 using AfterAggregates = Joined<FamilyList<OrbFilter>, AfterFilters>;
 
+constexpr OnlyOne oneNames{"Names", "EmbeddedSource"};
+constexpr OnlyOne oneTypes{"Types", "EmbeddedSource"};
+
+using Families = ChildFamilies<FamilyList<OrbAggregate, OrbFilter, Limited<OrbNames, oneNames>,
+                                          Limited<OrbTypes, oneTypes>, OrbRow, OrbDataReduction>>;
+
 } // namespace
 
-struct OrbEmbeddedSource::Children
-    : ChildFamilies<FamilyList<OrbAggregate, OrbFilter, OrbNames, OrbTypes, OrbRow, OrbDataReduction>> {};
+template <> const ElementDescription& orbchart::descriptionOf<OrbEmbeddedSource>() {
+  return elementDescription<OrbEmbeddedSource, Attributes, Families>;
+}
+
+struct OrbEmbeddedSource::Children : Families {};
 
 OrbEmbeddedSource::OrbEmbeddedSource(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -32,25 +47,19 @@ OrbEmbeddedSource::OrbEmbeddedSource(DOMElement* element) : OrbBaseElement(eleme
 OrbEmbeddedSource::OrbEmbeddedSource(DOMElement* element, const XMLCh* id) : OrbEmbeddedSource(element) { setId(id); }
 OrbEmbeddedSource::~OrbEmbeddedSource() = default;
 
-const XMLCh* OrbEmbeddedSource::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbEmbeddedSource::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbEmbeddedSource::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbEmbeddedSource::getId() const { return id.get(*this); }
+void OrbEmbeddedSource::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbEmbeddedSource::removeId() { id.remove(*this); }
 
-OrbEmbeddedSource::ENUM_missing OrbEmbeddedSource::getMissing() const {
-  return readKeyword(*this, _UTF_missing, missingKeywords<OrbEmbeddedSource>, missing_unset);
-}
-void OrbEmbeddedSource::setMissing(ENUM_missing missing) {
-  writeKeyword(*this, _UTF_missing, missingKeywords<OrbEmbeddedSource>, missing);
-}
-bool OrbEmbeddedSource::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbEmbeddedSource::removeMissing() { removeAttribute(*this, _UTF_missing); }
+OrbEmbeddedSource::ENUM_missing OrbEmbeddedSource::getMissing() const { return missing.get(*this); }
+void OrbEmbeddedSource::setMissing(ENUM_missing value) { missing.set(*this, value); }
+bool OrbEmbeddedSource::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbEmbeddedSource::removeMissing() { missing.remove(*this); }
 
-bool OrbEmbeddedSource::getFilterToMissing() const { return readBoolean(*this, _UTF_filterToMissing); }
-void OrbEmbeddedSource::setFilterToMissing(bool filterToMissing) {
-  writeBoolean(*this, _UTF_filterToMissing, filterToMissing);
-}
-bool OrbEmbeddedSource::isFilterToMissingPresent() const { return isPresent(*this, _UTF_filterToMissing); }
-void OrbEmbeddedSource::removeFilterToMissing() { removeAttribute(*this, _UTF_filterToMissing); }
+bool OrbEmbeddedSource::getFilterToMissing() const { return filterToMissing.get(*this); }
+void OrbEmbeddedSource::setFilterToMissing(bool value) { filterToMissing.set(*this, value); }
+bool OrbEmbeddedSource::isFilterToMissingPresent() const { return filterToMissing.isPresent(*this); }
+void OrbEmbeddedSource::removeFilterToMissing() { filterToMissing.remove(*this); }
 
 OrbAggregate* OrbEmbeddedSource::addAggregate() { return children_->add<OrbAggregate>(*this, AfterAggregates{}); }
 OrbAggregate* OrbEmbeddedSource::getAggregate() const { return children_->first<OrbAggregate>(); }
@@ -60,15 +69,11 @@ OrbFilter* OrbEmbeddedSource::addFilter() { return children_->add<OrbFilter>(*th
 std::vector<OrbFilter*> OrbEmbeddedSource::getFilters() const { return children_->all<OrbFilter>(); }
 unsigned int OrbEmbeddedSource::removeFilters() { return children_->removeAll<OrbFilter>(*this); }
 
-OrbNames* OrbEmbeddedSource::addNames() {
-  return children_->add<OrbNames>(*this, OnlyOne("Names", "EmbeddedSource"), AfterNames{});
-}
+OrbNames* OrbEmbeddedSource::addNames() { return children_->add<OrbNames>(*this, AfterNames{}); }
 OrbNames* OrbEmbeddedSource::getNames() const { return children_->first<OrbNames>(); }
 unsigned int OrbEmbeddedSource::removeNamess() { return children_->removeAll<OrbNames>(*this); }
 
-OrbTypes* OrbEmbeddedSource::addTypes() {
-  return children_->add<OrbTypes>(*this, OnlyOne("Types", "EmbeddedSource"), AfterTypes{});
-}
+OrbTypes* OrbEmbeddedSource::addTypes() { return children_->add<OrbTypes>(*this, AfterTypes{}); }
 OrbTypes* OrbEmbeddedSource::getTypes() const { return children_->first<OrbTypes>(); }
 unsigned int OrbEmbeddedSource::removeTypess() { return children_->removeAll<OrbTypes>(*this); }
 

@@ -8,12 +8,24 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Text expression{OrbUni::_expression};
+
+using Attributes = AttributeList<expression>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbExpressionVariable>() {
+  return elementDescription<OrbExpressionVariable, DerivedFrom<CTVariableType>, Attributes>;
+}
+
 OrbExpressionVariable::OrbExpressionVariable(DOMElement* element) : CTVariableType(element) { bind(*this); }
 OrbExpressionVariable::OrbExpressionVariable(DOMElement* element, const XMLCh* id) : CTVariableType(element, id) {
   bind(*this);
 }
 OrbExpressionVariable::~OrbExpressionVariable() = default;
 
-const XMLCh* OrbExpressionVariable::getExpression() const { return GetAttribute(OrbUni::_expression); }
-void OrbExpressionVariable::setExpression(const XMLCh* expression) { SetAttribute(OrbUni::_expression, expression); }
-void OrbExpressionVariable::removeExpression() { removeAttribute(*this, OrbUni::_expression); }
+const XMLCh* OrbExpressionVariable::getExpression() const { return expression.get(*this); }
+void OrbExpressionVariable::setExpression(const XMLCh* value) { expression.set(*this, value); }
+void OrbExpressionVariable::removeExpression() { expression.remove(*this); }

@@ -18,6 +18,12 @@ using namespace orbchart;
 
 namespace {
 
+constexpr Id id;
+constexpr Text method{OrbUni::_method};
+constexpr Boolean augmentEmptyCells{OrbFaceting::_UTF_augmentEmptyCells};
+
+using Attributes = AttributeList<id, method, augmentEmptyCells>;
+
 // The families by band, in document order. A new family takes its place in its band.
 using Statistics = FamilyList<OrbAttach, OrbBinStatistic, OrbAggregateStatistic, OrbCollectRowsStatistic, OrbReplicate,
                               OrbEvaluateStatistic, OrbSummaryStatistic, OrbWhen>;
@@ -25,9 +31,15 @@ using Algebra = Joined<AlgebraOperands, FamilyList<OrbLayer>>;
 
 using AfterStatistics = Algebra;
 
+using Families = ChildFamilies<Joined<Statistics, Algebra>>;
+
 } // namespace
 
-struct OrbFaceting::Children : ChildFamilies<Joined<Statistics, Algebra>> {};
+template <> const ElementDescription& orbchart::descriptionOf<OrbFaceting>() {
+  return elementDescription<OrbFaceting, Attributes, Families>;
+}
+
+struct OrbFaceting::Children : Families {};
 
 OrbFaceting::OrbFaceting(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -35,20 +47,18 @@ OrbFaceting::OrbFaceting(xercesc::DOMElement* element) : OrbBaseElement(element)
 }
 OrbFaceting::~OrbFaceting() = default;
 
-const XMLCh* OrbFaceting::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbFaceting::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbFaceting::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbFaceting::getId() const { return id.get(*this); }
+void OrbFaceting::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbFaceting::removeId() { id.remove(*this); }
 
-const XMLCh* OrbFaceting::getMethod() const { return GetAttribute(OrbUni::_method); }
-void OrbFaceting::setMethod(const XMLCh* method) { SetAttribute(OrbUni::_method, method); }
-void OrbFaceting::removeMethod() { removeAttribute(*this, OrbUni::_method); }
+const XMLCh* OrbFaceting::getMethod() const { return method.get(*this); }
+void OrbFaceting::setMethod(const XMLCh* value) { method.set(*this, value); }
+void OrbFaceting::removeMethod() { method.remove(*this); }
 
-bool OrbFaceting::getAugmentEmptyCells() const { return readBoolean(*this, _UTF_augmentEmptyCells); }
-void OrbFaceting::setAugmentEmptyCells(bool augmentEmptyCells) {
-  writeBoolean(*this, _UTF_augmentEmptyCells, augmentEmptyCells);
-}
-bool OrbFaceting::isAugmentEmptyCellsPresent() const { return isPresent(*this, _UTF_augmentEmptyCells); }
-void OrbFaceting::removeAugmentEmptyCells() { removeAttribute(*this, _UTF_augmentEmptyCells); }
+bool OrbFaceting::getAugmentEmptyCells() const { return augmentEmptyCells.get(*this); }
+void OrbFaceting::setAugmentEmptyCells(bool value) { augmentEmptyCells.set(*this, value); }
+bool OrbFaceting::isAugmentEmptyCellsPresent() const { return augmentEmptyCells.isPresent(*this); }
+void OrbFaceting::removeAugmentEmptyCells() { augmentEmptyCells.remove(*this); }
 
 OrbAttach* OrbFaceting::addAttach() { return children_->add<OrbAttach>(*this, AfterStatistics{}); }
 std::vector<OrbAttach*> OrbFaceting::getAttachs() const { return children_->all<OrbAttach>(); }

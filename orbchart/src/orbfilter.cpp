@@ -11,6 +11,23 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Id id;
+constexpr Text sourceName{OrbUni::_sourceName};
+constexpr ReferenceTo<OrbBaseElement, OrbCategoricalDomain, OrbIntervalDomain> domain{OrbUni::_domain};
+constexpr Boolean exclude{OrbFilter::_UTF_exclude};
+
+using Attributes = AttributeList<id, sourceName, domain, exclude>;
+
+using Families = ChildFamilies<FamilyList<>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbFilter>() {
+  return elementDescription<OrbFilter, Attributes, Families>;
+}
+
 OrbFilter::OrbFilter(DOMElement* element) : OrbBaseElement(element) { init(); }
 OrbFilter::OrbFilter(DOMElement* element, const XMLCh* sourceName, const OrbCategoricalDomain& domain) :
     OrbBaseElement(element) {
@@ -29,28 +46,26 @@ OrbFilter::OrbFilter(DOMElement* element, const XMLCh* sourceName, const OrbInte
 OrbFilter::~OrbFilter() = default;
 
 void OrbFilter::init() {
-  ChildFamilies<FamilyList<>>().load(*this);
+  Families().load(*this);
   bind(*this);
 }
 
-const XMLCh* OrbFilter::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbFilter::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbFilter::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbFilter::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbFilter::getId() const { return id.get(*this); }
+void OrbFilter::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbFilter::isIdPresent() const { return id.isPresent(*this); }
+void OrbFilter::removeId() { id.remove(*this); }
 
-const XMLCh* OrbFilter::getSourceName() const { return GetAttribute(OrbUni::_sourceName); }
-void OrbFilter::setSourceName(const XMLCh* sourceName) { SetAttribute(OrbUni::_sourceName, sourceName); }
-void OrbFilter::removeSourceName() { removeAttribute(*this, OrbUni::_sourceName); }
+const XMLCh* OrbFilter::getSourceName() const { return sourceName.get(*this); }
+void OrbFilter::setSourceName(const XMLCh* value) { sourceName.set(*this, value); }
+void OrbFilter::removeSourceName() { sourceName.remove(*this); }
 
 // No wrapper registers the key `domain`, under which the target would be looked up.
 OrbCategoricalDomain* OrbFilter::getCategoricalDomain() const { return nullptr; }
 OrbIntervalDomain* OrbFilter::getIntervalDomain() const { return nullptr; }
-void OrbFilter::setCategoricalDomain(const OrbCategoricalDomain& domain) {
-  writeReference(*this, OrbUni::_domain, domain);
-}
-void OrbFilter::setIntervalDomain(const OrbIntervalDomain& domain) { writeReference(*this, OrbUni::_domain, domain); }
-void OrbFilter::removeDomain() { removeAttribute(*this, OrbUni::_domain); }
+void OrbFilter::setCategoricalDomain(const OrbCategoricalDomain& target) { domain.set(*this, target); }
+void OrbFilter::setIntervalDomain(const OrbIntervalDomain& target) { domain.set(*this, target); }
+void OrbFilter::removeDomain() { domain.remove(*this); }
 
-bool OrbFilter::getExclude() const { return readBoolean(*this, _UTF_exclude); }
-void OrbFilter::setExclude(bool exclude) { writeBoolean(*this, _UTF_exclude, exclude); }
-void OrbFilter::removeExclude() { removeAttribute(*this, _UTF_exclude); }
+bool OrbFilter::getExclude() const { return exclude.get(*this); }
+void OrbFilter::setExclude(bool value) { exclude.set(*this, value); }
+void OrbFilter::removeExclude() { exclude.remove(*this); }

@@ -7,7 +7,22 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbFootnotes::Children : ChildFamilies<FamilyList<>> {};
+namespace {
+
+constexpr Unsigned index{OrbFootnotes::_UTF_index};
+constexpr Boolean superscript{OrbFootnotes::_UTF_superscript};
+
+using Attributes = AttributeList<index, superscript>;
+
+using Families = ChildFamilies<FamilyList<>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbFootnotes>() {
+  return elementDescription<OrbFootnotes, DerivedWithoutChildrenFrom<CTAesthetic>, Attributes, Families>;
+}
+
+struct OrbFootnotes::Children : Families {};
 
 OrbFootnotes::OrbFootnotes(DOMElement* element) : CTAesthetic(element, WithoutChildren()), children_(new Children) {
   children_->load(*this);
@@ -15,12 +30,12 @@ OrbFootnotes::OrbFootnotes(DOMElement* element) : CTAesthetic(element, WithoutCh
 }
 OrbFootnotes::~OrbFootnotes() = default;
 
-unsigned int OrbFootnotes::getIndex() const { return readUnsigned(*this, _UTF_index); }
-void OrbFootnotes::setIndex(unsigned int index) { writeUnsigned(*this, _UTF_index, index); }
-bool OrbFootnotes::isIndexPresent() const { return isPresent(*this, _UTF_index); }
-void OrbFootnotes::removeIndex() { removeAttribute(*this, _UTF_index); }
+unsigned int OrbFootnotes::getIndex() const { return index.get(*this); }
+void OrbFootnotes::setIndex(unsigned int value) { index.set(*this, value); }
+bool OrbFootnotes::isIndexPresent() const { return index.isPresent(*this); }
+void OrbFootnotes::removeIndex() { index.remove(*this); }
 
-bool OrbFootnotes::getSuperscript() const { return readBoolean(*this, _UTF_superscript); }
-void OrbFootnotes::setSuperscript(bool superscript) { writeBoolean(*this, _UTF_superscript, superscript); }
-bool OrbFootnotes::isSuperscriptPresent() const { return isPresent(*this, _UTF_superscript); }
-void OrbFootnotes::removeSuperscript() { removeAttribute(*this, _UTF_superscript); }
+bool OrbFootnotes::getSuperscript() const { return superscript.get(*this); }
+void OrbFootnotes::setSuperscript(bool value) { superscript.set(*this, value); }
+bool OrbFootnotes::isSuperscriptPresent() const { return superscript.isPresent(*this); }
+void OrbFootnotes::removeSuperscript() { superscript.remove(*this); }

@@ -6,7 +6,17 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbFormatting::Children : ChildFamilies<FamilyList<>> {};
+namespace {
+
+using Families = ChildFamilies<FamilyList<>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbFormatting>() {
+  return elementDescription<OrbFormatting, DerivedWithoutChildrenFrom<CTAesthetic>, Families>;
+}
+
+struct OrbFormatting::Children : Families {};
 
 OrbFormatting::OrbFormatting(DOMElement* element) : CTAesthetic(element, WithoutChildren()), children_(new Children) {
   children_->load(*this);

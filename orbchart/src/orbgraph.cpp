@@ -23,14 +23,28 @@ using xercesc::DOMElement;
 
 namespace {
 
+constexpr Id id;
+constexpr Reference<OrbStyle> cellStyle{OrbGraph::_UTF_cellStyle};
+constexpr Reference<OrbStyle> style{OrbUni::_style};
+constexpr Boolean clip{OrbUni::_clip};
+constexpr Reference<OrbDimension> alignCellHorizontallyWith{OrbGraph::_UTF_alignCellHorizontallyWith};
+constexpr Reference<OrbDimension> alignCellVerticallyWith{OrbGraph::_UTF_alignCellVerticallyWith};
+constexpr Boolean axesOutside{OrbGraph::_UTF_axesOutside};
+
+using Attributes =
+    AttributeList<id, cellStyle, style, clip, alignCellHorizontallyWith, alignCellVerticallyWith, axesOutside>;
+
+constexpr OnlyOne oneFaceting{"Faceting", "Graph"};
+
 // The families by band, in document order; a band of the language without a class here is empty and keeps its place. A
 // new family goes into its band, and with it into the record, the loader and the followers of the bands before it.
 using Extensions = FamilyList<>;
 using Locations = FamilyList<>;
-using CoordinateSystems = FamilyList<OrbCoordinates>;
-using Facetings = FamilyList<OrbFaceting>;
+using CoordinateSystems = FamilyList<StripsIds<OrbCoordinates>>;
+using Facetings = FamilyList<StripsIds<Limited<OrbFaceting, oneFaceting>>>;
 using FacetLayouts = FamilyList<>;
-using Elements = FamilyList<OrbArea, OrbInterval, OrbLine, OrbEdge, OrbPath, OrbPoint, OrbPolygon, OrbSchema>;
+using Elements = FamilyList<StripsIds<OrbArea>, StripsIds<OrbInterval>, StripsIds<OrbLine>, StripsIds<OrbEdge>,
+                            StripsIds<OrbPath>, StripsIds<OrbPoint>, StripsIds<OrbPolygon>, StripsIds<OrbSchema>>;
 using Guides = FamilyList<>;
 
 using AfterGuides = FamilyList<>;
@@ -41,9 +55,15 @@ using AfterCoordinateSystems = Joined<Facetings, AfterFacetings>;
 using AfterLocations = Joined<CoordinateSystems, AfterCoordinateSystems>;
 using AfterExtensions = Joined<Locations, AfterLocations>;
 
+using Families = ChildFamilies<Joined<Extensions, AfterExtensions>>;
+
 } // namespace
 
-struct OrbGraph::Children : ChildFamilies<Joined<Extensions, AfterExtensions>> {
+template <> const ElementDescription& orbchart::descriptionOf<OrbGraph>() {
+  return elementDescription<OrbGraph, Attributes, Families>;
+}
+
+struct OrbGraph::Children : Families {
   /// Removes a graphic element if its class is one of these and its wrapper is in the family of that class.
   template <class... Classes> bool removeAmong(const OrbGraph& graph, const CTElementType& element) {
     return (removeSame<Classes>(graph, dynamic_cast<const Classes*>(&element)) || ...);
@@ -66,87 +86,79 @@ OrbGraph::OrbGraph(DOMElement* element) : OrbBaseElement(element), children_(new
 OrbGraph::OrbGraph(DOMElement* element, const XMLCh* id) : OrbGraph(element) { setId(id); }
 OrbGraph::~OrbGraph() = default;
 
-const XMLCh* OrbGraph::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbGraph::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbGraph::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbGraph::getId() const { return id.get(*this); }
+void OrbGraph::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbGraph::removeId() { id.remove(*this); }
 
-OrbStyle* OrbGraph::getCellStyle() const { return readReference<OrbStyle>(*this, _UTF_cellStyle); }
-void OrbGraph::setCellStyle(const OrbStyle& style) { writeReference(*this, _UTF_cellStyle, style); }
-void OrbGraph::removeCellStyle() { removeAttribute(*this, _UTF_cellStyle); }
+OrbStyle* OrbGraph::getCellStyle() const { return cellStyle.get(*this); }
+void OrbGraph::setCellStyle(const OrbStyle& target) { cellStyle.set(*this, target); }
+void OrbGraph::removeCellStyle() { cellStyle.remove(*this); }
 
-OrbStyle* OrbGraph::getStyle() const { return readReference<OrbStyle>(*this, OrbUni::_style); }
-void OrbGraph::setStyle(const OrbStyle& style) { writeReference(*this, OrbUni::_style, style); }
-void OrbGraph::removeStyle() { removeAttribute(*this, OrbUni::_style); }
+OrbStyle* OrbGraph::getStyle() const { return style.get(*this); }
+void OrbGraph::setStyle(const OrbStyle& target) { style.set(*this, target); }
+void OrbGraph::removeStyle() { style.remove(*this); }
 
-bool OrbGraph::getClip() const { return readBoolean(*this, OrbUni::_clip); }
-void OrbGraph::setClip(bool clip) { writeBoolean(*this, OrbUni::_clip, clip); }
-void OrbGraph::removeClip() { removeAttribute(*this, OrbUni::_clip); }
+bool OrbGraph::getClip() const { return clip.get(*this); }
+void OrbGraph::setClip(bool value) { clip.set(*this, value); }
+void OrbGraph::removeClip() { clip.remove(*this); }
 
-OrbDimension* OrbGraph::getAlignCellHorizontallyWith() const {
-  return readReference<OrbDimension>(*this, _UTF_alignCellHorizontallyWith);
+OrbDimension* OrbGraph::getAlignCellHorizontallyWith() const { return alignCellHorizontallyWith.get(*this); }
+void OrbGraph::setAlignCellHorizontallyWith(const OrbDimension& target) {
+  alignCellHorizontallyWith.set(*this, target);
 }
-void OrbGraph::setAlignCellHorizontallyWith(const OrbDimension& dimension) {
-  writeReference(*this, _UTF_alignCellHorizontallyWith, dimension);
-}
-void OrbGraph::removeAlignCellHorizontallyWith() { removeAttribute(*this, _UTF_alignCellHorizontallyWith); }
+void OrbGraph::removeAlignCellHorizontallyWith() { alignCellHorizontallyWith.remove(*this); }
 
-OrbDimension* OrbGraph::getAlignCellVerticallyWith() const {
-  return readReference<OrbDimension>(*this, _UTF_alignCellVerticallyWith);
-}
-void OrbGraph::setAlignCellVerticallyWith(const OrbDimension& dimension) {
-  writeReference(*this, _UTF_alignCellVerticallyWith, dimension);
-}
-void OrbGraph::removeAlignCellVerticallyWith() { removeAttribute(*this, _UTF_alignCellVerticallyWith); }
+OrbDimension* OrbGraph::getAlignCellVerticallyWith() const { return alignCellVerticallyWith.get(*this); }
+void OrbGraph::setAlignCellVerticallyWith(const OrbDimension& target) { alignCellVerticallyWith.set(*this, target); }
+void OrbGraph::removeAlignCellVerticallyWith() { alignCellVerticallyWith.remove(*this); }
 
-bool OrbGraph::getAxesOutside() const { return readBoolean(*this, _UTF_axesOutside); }
-void OrbGraph::setAxesOutside(bool axesOutside) { writeBoolean(*this, _UTF_axesOutside, axesOutside); }
-void OrbGraph::removeAxesOutside() { removeAttribute(*this, _UTF_axesOutside); }
+bool OrbGraph::getAxesOutside() const { return axesOutside.get(*this); }
+void OrbGraph::setAxesOutside(bool value) { axesOutside.set(*this, value); }
+void OrbGraph::removeAxesOutside() { axesOutside.remove(*this); }
 
 OrbCoordinates* OrbGraph::addCoordinates(const XMLCh* id) {
   return children_->add<OrbCoordinates>(*this, AfterCoordinateSystems{}, id);
 }
 OrbCoordinates* OrbGraph::getCoordinates(unsigned int index) const { return children_->at<OrbCoordinates>(index); }
 std::vector<OrbCoordinates*> OrbGraph::getCoordinatess() const { return children_->all<OrbCoordinates>(); }
-unsigned int OrbGraph::removeCoordinatess() { return children_->removeAll<OrbCoordinates>(*this, Ids::strip); }
+unsigned int OrbGraph::removeCoordinatess() { return children_->removeAll<OrbCoordinates>(*this); }
 
-OrbFaceting* OrbGraph::addFaceting() {
-  return children_->add<OrbFaceting>(*this, OnlyOne("Faceting", "Graph"), AfterFacetings{});
-}
+OrbFaceting* OrbGraph::addFaceting() { return children_->add<OrbFaceting>(*this, AfterFacetings{}); }
 OrbFaceting* OrbGraph::getFaceting() const { return children_->first<OrbFaceting>(); }
-unsigned int OrbGraph::removeFacetings() { return children_->removeAll<OrbFaceting>(*this, Ids::strip); }
+unsigned int OrbGraph::removeFacetings() { return children_->removeAll<OrbFaceting>(*this); }
 
 OrbArea* OrbGraph::addArea(const XMLCh* id) { return children_->add<OrbArea>(*this, AfterElements{}, id); }
 std::vector<OrbArea*> OrbGraph::getAreas() const { return children_->all<OrbArea>(); }
-unsigned int OrbGraph::removeAreas() { return children_->removeAll<OrbArea>(*this, Ids::strip); }
+unsigned int OrbGraph::removeAreas() { return children_->removeAll<OrbArea>(*this); }
 
 OrbInterval* OrbGraph::addInterval(const XMLCh* id) { return children_->add<OrbInterval>(*this, AfterElements{}, id); }
 std::vector<OrbInterval*> OrbGraph::getIntervals() const { return children_->all<OrbInterval>(); }
-unsigned int OrbGraph::removeIntervals() { return children_->removeAll<OrbInterval>(*this, Ids::strip); }
+unsigned int OrbGraph::removeIntervals() { return children_->removeAll<OrbInterval>(*this); }
 
 OrbLine* OrbGraph::addLine(const XMLCh* id) { return children_->add<OrbLine>(*this, AfterElements{}, id); }
 std::vector<OrbLine*> OrbGraph::getLines() const { return children_->all<OrbLine>(); }
-unsigned int OrbGraph::removeLines() { return children_->removeAll<OrbLine>(*this, Ids::strip); }
+unsigned int OrbGraph::removeLines() { return children_->removeAll<OrbLine>(*this); }
 
 OrbEdge* OrbGraph::addEdge() { return children_->add<OrbEdge>(*this, AfterElements{}); }
 std::vector<OrbEdge*> OrbGraph::getEdges() const { return children_->all<OrbEdge>(); }
-bool OrbGraph::removeEdge(unsigned int index) { return children_->removeAt<OrbEdge>(*this, index, Ids::strip); }
-unsigned int OrbGraph::removeEdges() { return children_->removeAll<OrbEdge>(*this, Ids::strip); }
+bool OrbGraph::removeEdge(unsigned int index) { return children_->removeAt<OrbEdge>(*this, index, true); }
+unsigned int OrbGraph::removeEdges() { return children_->removeAll<OrbEdge>(*this); }
 
 OrbPath* OrbGraph::addPath(const XMLCh* id) { return children_->add<OrbPath>(*this, AfterElements{}, id); }
 std::vector<OrbPath*> OrbGraph::getPaths() const { return children_->all<OrbPath>(); }
-unsigned int OrbGraph::removePaths() { return children_->removeAll<OrbPath>(*this, Ids::strip); }
+unsigned int OrbGraph::removePaths() { return children_->removeAll<OrbPath>(*this); }
 
 OrbPoint* OrbGraph::addPoint(const XMLCh* id) { return children_->add<OrbPoint>(*this, AfterElements{}, id); }
 std::vector<OrbPoint*> OrbGraph::getPoints() const { return children_->all<OrbPoint>(); }
-unsigned int OrbGraph::removePoints() { return children_->removeAll<OrbPoint>(*this, Ids::strip); }
+unsigned int OrbGraph::removePoints() { return children_->removeAll<OrbPoint>(*this); }
 
 OrbPolygon* OrbGraph::addPolygon(const XMLCh* id) { return children_->add<OrbPolygon>(*this, AfterElements{}, id); }
 std::vector<OrbPolygon*> OrbGraph::getPolygons() const { return children_->all<OrbPolygon>(); }
-unsigned int OrbGraph::removePolygons() { return children_->removeAll<OrbPolygon>(*this, Ids::strip); }
+unsigned int OrbGraph::removePolygons() { return children_->removeAll<OrbPolygon>(*this); }
 
 OrbSchema* OrbGraph::addSchema(const XMLCh* id) { return children_->add<OrbSchema>(*this, AfterElements{}, id); }
 std::vector<OrbSchema*> OrbGraph::getSchemas() const { return children_->all<OrbSchema>(); }
-unsigned int OrbGraph::removeSchemas() { return children_->removeAll<OrbSchema>(*this, Ids::strip); }
+unsigned int OrbGraph::removeSchemas() { return children_->removeAll<OrbSchema>(*this); }
 
 bool OrbGraph::removeElement(CTElementType& element) {
   return children_->removeAmong<OrbPoint, OrbInterval, OrbLine, OrbArea, OrbSchema, OrbPath, OrbPolygon>(*this,

@@ -8,7 +8,22 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbImage::Children : ChildFamilies<FamilyList<>> {};
+namespace {
+
+constexpr Text cycle{OrbUni::_cycle};
+constexpr Text missing{OrbImage::_UTF_missing};
+
+using Attributes = AttributeList<cycle, missing>;
+
+using Families = ChildFamilies<FamilyList<>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbImage>() {
+  return elementDescription<OrbImage, DerivedWithoutChildrenFrom<CTAesthetic>, Attributes, Families>;
+}
+
+struct OrbImage::Children : Families {};
 
 OrbImage::OrbImage(DOMElement* element) : CTAesthetic(element, WithoutChildren()), children_(new Children) {
   children_->load(*this);
@@ -16,10 +31,10 @@ OrbImage::OrbImage(DOMElement* element) : CTAesthetic(element, WithoutChildren()
 }
 OrbImage::~OrbImage() = default;
 
-bool OrbImage::isCyclePresent() const { return isPresent(*this, OrbUni::_cycle); }
-void OrbImage::removeCycle() { removeAttribute(*this, OrbUni::_cycle); }
+bool OrbImage::isCyclePresent() const { return cycle.isPresent(*this); }
+void OrbImage::removeCycle() { cycle.remove(*this); }
 
-const XMLCh* OrbImage::getMissing() const { return GetAttribute(_UTF_missing); }
-void OrbImage::setMissing(const XMLCh* missing) { SetAttribute(_UTF_missing, missing); }
-bool OrbImage::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbImage::removeMissing() { removeAttribute(*this, _UTF_missing); }
+const XMLCh* OrbImage::getMissing() const { return missing.get(*this); }
+void OrbImage::setMissing(const XMLCh* value) { missing.set(*this, value); }
+bool OrbImage::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbImage::removeMissing() { missing.remove(*this); }

@@ -9,7 +9,21 @@
 
 using namespace orbchart;
 
-struct OrbIntersect::Children : ChildFamilies<FamilyList<OrbWhere, OrbIntersectWhere>> {};
+namespace {
+
+constexpr Id id;
+
+using Attributes = AttributeList<id>;
+
+using Families = ChildFamilies<FamilyList<OrbWhere, OrbIntersectWhere>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbIntersect>() {
+  return elementDescription<OrbIntersect, Attributes, Families>;
+}
+
+struct OrbIntersect::Children : Families {};
 
 OrbIntersect::OrbIntersect(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -17,10 +31,10 @@ OrbIntersect::OrbIntersect(xercesc::DOMElement* element) : OrbBaseElement(elemen
 }
 OrbIntersect::~OrbIntersect() = default;
 
-const XMLCh* OrbIntersect::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbIntersect::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbIntersect::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbIntersect::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbIntersect::getId() const { return id.get(*this); }
+void OrbIntersect::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbIntersect::isIdPresent() const { return id.isPresent(*this); }
+void OrbIntersect::removeId() { id.remove(*this); }
 
 OrbWhere* OrbIntersect::addWhere() { return children_->add<OrbWhere>(*this, atEnd); }
 std::vector<OrbWhere*> OrbIntersect::getWheres() const { return children_->all<OrbWhere>(); }

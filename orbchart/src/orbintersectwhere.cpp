@@ -9,6 +9,20 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Id id;
+constexpr VariableReference variable{OrbUni::_variable};
+constexpr VariableReference variable2{OrbIntersectWhere::_UTF_variable2};
+
+using Attributes = AttributeList<id, variable, variable2>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbIntersectWhere>() {
+  return elementDescription<OrbIntersectWhere, Attributes>;
+}
+
 OrbIntersectWhere::OrbIntersectWhere(DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbIntersectWhere::OrbIntersectWhere(DOMElement* element, const CTVariableType& variable,
                                      const CTVariableType& variable2) :
@@ -18,21 +32,17 @@ OrbIntersectWhere::OrbIntersectWhere(DOMElement* element, const CTVariableType& 
 }
 OrbIntersectWhere::~OrbIntersectWhere() = default;
 
-const XMLCh* OrbIntersectWhere::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbIntersectWhere::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbIntersectWhere::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbIntersectWhere::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbIntersectWhere::getId() const { return id.get(*this); }
+void OrbIntersectWhere::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbIntersectWhere::isIdPresent() const { return id.isPresent(*this); }
+void OrbIntersectWhere::removeId() { id.remove(*this); }
 
-CTVariableType* OrbIntersectWhere::getVariable() const { return readVariable(*this, OrbUni::_variable); }
-void OrbIntersectWhere::setVariable(const CTVariableType& variable) {
-  writeReference(*this, OrbUni::_variable, variable);
-}
-bool OrbIntersectWhere::isVariablePresent() const { return isPresent(*this, OrbUni::_variable); }
-void OrbIntersectWhere::removeVariable() { removeAttribute(*this, OrbUni::_variable); }
+CTVariableType* OrbIntersectWhere::getVariable() const { return variable.get(*this); }
+void OrbIntersectWhere::setVariable(const CTVariableType& target) { variable.set(*this, target); }
+bool OrbIntersectWhere::isVariablePresent() const { return variable.isPresent(*this); }
+void OrbIntersectWhere::removeVariable() { variable.remove(*this); }
 
-CTVariableType* OrbIntersectWhere::getVariable2() const { return readVariable(*this, _UTF_variable2); }
-void OrbIntersectWhere::setVariable2(const CTVariableType& variable) {
-  writeReference(*this, _UTF_variable2, variable);
-}
-bool OrbIntersectWhere::isVariable2Present() const { return isPresent(*this, _UTF_variable2); }
-void OrbIntersectWhere::removeVariable2() { removeAttribute(*this, _UTF_variable2); }
+CTVariableType* OrbIntersectWhere::getVariable2() const { return variable2.get(*this); }
+void OrbIntersectWhere::setVariable2(const CTVariableType& target) { variable2.set(*this, target); }
+bool OrbIntersectWhere::isVariable2Present() const { return variable2.isPresent(*this); }
+void OrbIntersectWhere::removeVariable2() { variable2.remove(*this); }

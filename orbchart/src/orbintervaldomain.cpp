@@ -13,11 +13,22 @@ using xercesc::DOMElement;
 
 namespace {
 
+constexpr Id id;
+constexpr Boolean date{OrbUni::_date};
+
+using Attributes = AttributeList<id, date>;
+
 using AfterReferences = FamilyList<OrbRange>;
+
+using Families = ChildFamilies<FamilyList<OrbVariableReference, OrbDomainReference, OrbRange>>;
 
 } // namespace
 
-struct OrbIntervalDomain::Children : ChildFamilies<FamilyList<OrbVariableReference, OrbDomainReference, OrbRange>> {};
+template <> const ElementDescription& orbchart::descriptionOf<OrbIntervalDomain>() {
+  return elementDescription<OrbIntervalDomain, Attributes, Families>;
+}
+
+struct OrbIntervalDomain::Children : Families {};
 
 OrbIntervalDomain::OrbIntervalDomain(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -26,13 +37,13 @@ OrbIntervalDomain::OrbIntervalDomain(DOMElement* element) : OrbBaseElement(eleme
 OrbIntervalDomain::OrbIntervalDomain(DOMElement* element, const XMLCh* id) : OrbIntervalDomain(element) { setId(id); }
 OrbIntervalDomain::~OrbIntervalDomain() = default;
 
-const XMLCh* OrbIntervalDomain::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbIntervalDomain::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbIntervalDomain::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbIntervalDomain::getId() const { return id.get(*this); }
+void OrbIntervalDomain::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbIntervalDomain::removeId() { id.remove(*this); }
 
-bool OrbIntervalDomain::getDate() const { return readBoolean(*this, OrbUni::_date); }
-void OrbIntervalDomain::setDate(bool date) { writeBoolean(*this, OrbUni::_date, date); }
-void OrbIntervalDomain::removeDate() { removeAttribute(*this, OrbUni::_date); }
+bool OrbIntervalDomain::getDate() const { return date.get(*this); }
+void OrbIntervalDomain::setDate(bool value) { date.set(*this, value); }
+void OrbIntervalDomain::removeDate() { date.remove(*this); }
 
 OrbVariableReference* OrbIntervalDomain::addVariableReference(const CTVariableType& variable) {
   return children_->add<OrbVariableReference>(*this, AfterReferences{}, variable);

@@ -15,16 +15,26 @@ using xercesc::DOMElement;
 
 namespace {
 
-constexpr Keyword<OrbIntervalDomainModifier::ENUM_dateType> dateTypes[] = {
-    {OrbIntervalDomainModifier::dateType_date, OrbUni::_date},
-    {OrbIntervalDomainModifier::dateType_dateTime, OrbUni::_dateTime},
-    {OrbIntervalDomainModifier::dateType_time, OrbUni::_time},
-};
+constexpr Id id;
+constexpr Keywords dateType{OrbIntervalDomainModifier::_UTF_dateType,
+                            OrbIntervalDomainModifier::dateType_unset,
+                            {
+                                {OrbIntervalDomainModifier::dateType_date, OrbUni::_date},
+                                {OrbIntervalDomainModifier::dateType_dateTime, OrbUni::_dateTime},
+                                {OrbIntervalDomainModifier::dateType_time, OrbUni::_time},
+                            }};
+
+using Attributes = AttributeList<id, dateType>;
+
+using Families = ChildFamilies<FamilyList<OrbDomainReplace, OrbDomainUnion, OrbDomainIntersect, OrbDomainExclude>>;
 
 } // namespace
 
-struct OrbIntervalDomainModifier::Children
-    : ChildFamilies<FamilyList<OrbDomainReplace, OrbDomainUnion, OrbDomainIntersect, OrbDomainExclude>> {};
+template <> const ElementDescription& orbchart::descriptionOf<OrbIntervalDomainModifier>() {
+  return elementDescription<OrbIntervalDomainModifier, Attributes, Families>;
+}
+
+struct OrbIntervalDomainModifier::Children : Families {};
 
 OrbIntervalDomainModifier::OrbIntervalDomainModifier(DOMElement* element) :
     OrbBaseElement(element), children_(new Children) {
@@ -33,19 +43,15 @@ OrbIntervalDomainModifier::OrbIntervalDomainModifier(DOMElement* element) :
 }
 OrbIntervalDomainModifier::~OrbIntervalDomainModifier() = default;
 
-const XMLCh* OrbIntervalDomainModifier::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbIntervalDomainModifier::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbIntervalDomainModifier::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbIntervalDomainModifier::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbIntervalDomainModifier::getId() const { return id.get(*this); }
+void OrbIntervalDomainModifier::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbIntervalDomainModifier::isIdPresent() const { return id.isPresent(*this); }
+void OrbIntervalDomainModifier::removeId() { id.remove(*this); }
 
-OrbIntervalDomainModifier::ENUM_dateType OrbIntervalDomainModifier::getDateType() const {
-  return readKeyword(*this, _UTF_dateType, dateTypes, dateType_unset);
-}
-void OrbIntervalDomainModifier::setDateType(ENUM_dateType dateType) {
-  writeKeyword(*this, _UTF_dateType, dateTypes, dateType);
-}
-bool OrbIntervalDomainModifier::isDateTypePresent() const { return isPresent(*this, _UTF_dateType); }
-void OrbIntervalDomainModifier::removeDateType() { removeAttribute(*this, _UTF_dateType); }
+OrbIntervalDomainModifier::ENUM_dateType OrbIntervalDomainModifier::getDateType() const { return dateType.get(*this); }
+void OrbIntervalDomainModifier::setDateType(ENUM_dateType value) { dateType.set(*this, value); }
+bool OrbIntervalDomainModifier::isDateTypePresent() const { return dateType.isPresent(*this); }
+void OrbIntervalDomainModifier::removeDateType() { dateType.remove(*this); }
 
 OrbDomainReplace* OrbIntervalDomainModifier::addDomainReplace() {
   return children_->add<OrbDomainReplace>(*this, atEnd);

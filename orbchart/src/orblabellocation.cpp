@@ -10,18 +10,24 @@ using namespace orbchart;
 
 namespace {
 
-constexpr Keyword<OrbLabelLocation::ENUM_role> roles[] = {
-    {OrbLabelLocation::role_x, OrbUni::_x},
-    {OrbLabelLocation::role_y, OrbUni::_y},
-};
+constexpr Keywords role{OrbUni::_role,
+                        AbsentReadsAs(OrbLabelLocation::role_x),
+                        {
+                            {OrbLabelLocation::role_x, OrbUni::_x},
+                            {OrbLabelLocation::role_y, OrbUni::_y},
+                        }};
+
+using Attributes = AttributeList<role>;
 
 } // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbLabelLocation>() {
+  return elementDescription<OrbLabelLocation, DerivedFrom<CTAesthetic>, Attributes>;
+}
 
 OrbLabelLocation::OrbLabelLocation(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
 OrbLabelLocation::~OrbLabelLocation() = default;
 
-OrbLabelLocation::ENUM_role OrbLabelLocation::getRole() const {
-  return readKeyword(*this, OrbUni::_role, roles, role_x);
-}
-void OrbLabelLocation::setRole(ENUM_role role) { writeKeyword(*this, OrbUni::_role, roles, role); }
-void OrbLabelLocation::removeRole() { removeAttribute(*this, OrbUni::_role); }
+OrbLabelLocation::ENUM_role OrbLabelLocation::getRole() const { return role.get(*this); }
+void OrbLabelLocation::setRole(ENUM_role value) { role.set(*this, value); }
+void OrbLabelLocation::removeRole() { role.remove(*this); }

@@ -12,13 +12,26 @@ using xercesc::DOMElement;
 
 namespace {
 
-constexpr Keyword<OrbLayer::ENUM_method> methods[] = {
-    {OrbLayer::method_cross, OrbUni::_cross},
-    {OrbLayer::method_nest, OrbUni::_nest},
-    {OrbLayer::method_dot, OrbUni::_dot},
-};
+constexpr Id id;
+constexpr VariableReference variable{OrbUni::_variable};
+constexpr Text value{OrbUni::_value};
+constexpr Boolean visible{OrbUni::_visible};
+constexpr Keywords method{OrbUni::_method,
+                          OrbLayer::method_unset,
+                          {
+                              {OrbLayer::method_cross, OrbUni::_cross},
+                              {OrbLayer::method_nest, OrbUni::_nest},
+                              {OrbLayer::method_dot, OrbUni::_dot},
+                          }};
+constexpr Boolean titleVisible{OrbLayer::_UTF_titleVisible};
+
+using Attributes = AttributeList<id, variable, value, visible, method, titleVisible>;
 
 } // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbLayer>() {
+  return elementDescription<OrbLayer, Attributes>;
+}
 
 OrbLayer::OrbLayer(DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbLayer::OrbLayer(DOMElement* element, const CTVariableType& variable, const XMLCh* value) : OrbLayer(element) {
@@ -27,32 +40,32 @@ OrbLayer::OrbLayer(DOMElement* element, const CTVariableType& variable, const XM
 }
 OrbLayer::~OrbLayer() = default;
 
-const XMLCh* OrbLayer::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbLayer::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbLayer::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbLayer::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbLayer::getId() const { return id.get(*this); }
+void OrbLayer::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbLayer::isIdPresent() const { return id.isPresent(*this); }
+void OrbLayer::removeId() { id.remove(*this); }
 
-CTVariableType* OrbLayer::getVariable() const { return readVariable(*this, OrbUni::_variable); }
-void OrbLayer::setVariable(const CTVariableType& variable) { writeReference(*this, OrbUni::_variable, variable); }
-bool OrbLayer::isVariablePresent() const { return isPresent(*this, OrbUni::_variable); }
-void OrbLayer::removeVariable() { removeAttribute(*this, OrbUni::_variable); }
+CTVariableType* OrbLayer::getVariable() const { return variable.get(*this); }
+void OrbLayer::setVariable(const CTVariableType& target) { variable.set(*this, target); }
+bool OrbLayer::isVariablePresent() const { return variable.isPresent(*this); }
+void OrbLayer::removeVariable() { variable.remove(*this); }
 
-const XMLCh* OrbLayer::getValue() const { return GetAttribute(OrbUni::_value); }
-void OrbLayer::setValue(const XMLCh* value) { SetAttribute(OrbUni::_value, value); }
-bool OrbLayer::isValuePresent() const { return isPresent(*this, OrbUni::_value); }
-void OrbLayer::removeValue() { removeAttribute(*this, OrbUni::_value); }
+const XMLCh* OrbLayer::getValue() const { return value.get(*this); }
+void OrbLayer::setValue(const XMLCh* newValue) { value.set(*this, newValue); }
+bool OrbLayer::isValuePresent() const { return value.isPresent(*this); }
+void OrbLayer::removeValue() { value.remove(*this); }
 
-bool OrbLayer::getVisible() const { return readBoolean(*this, OrbUni::_visible); }
-void OrbLayer::setVisible(bool visible) { writeBoolean(*this, OrbUni::_visible, visible); }
-bool OrbLayer::isVisiblePresent() const { return isPresent(*this, OrbUni::_visible); }
-void OrbLayer::removeVisible() { removeAttribute(*this, OrbUni::_visible); }
+bool OrbLayer::getVisible() const { return visible.get(*this); }
+void OrbLayer::setVisible(bool value) { visible.set(*this, value); }
+bool OrbLayer::isVisiblePresent() const { return visible.isPresent(*this); }
+void OrbLayer::removeVisible() { visible.remove(*this); }
 
-OrbLayer::ENUM_method OrbLayer::getMethod() const { return readKeyword(*this, OrbUni::_method, methods, method_unset); }
-void OrbLayer::setMethod(ENUM_method method) { writeKeyword(*this, OrbUni::_method, methods, method); }
-bool OrbLayer::isMethodPresent() const { return isPresent(*this, OrbUni::_method); }
-void OrbLayer::removeMethod() { removeAttribute(*this, OrbUni::_method); }
+OrbLayer::ENUM_method OrbLayer::getMethod() const { return method.get(*this); }
+void OrbLayer::setMethod(ENUM_method value) { method.set(*this, value); }
+bool OrbLayer::isMethodPresent() const { return method.isPresent(*this); }
+void OrbLayer::removeMethod() { method.remove(*this); }
 
-bool OrbLayer::getTitleVisible() const { return readBoolean(*this, _UTF_titleVisible); }
-void OrbLayer::setTitleVisible(bool titleVisible) { writeBoolean(*this, _UTF_titleVisible, titleVisible); }
-bool OrbLayer::isTitleVisiblePresent() const { return isPresent(*this, _UTF_titleVisible); }
-void OrbLayer::removeTitleVisible() { removeAttribute(*this, _UTF_titleVisible); }
+bool OrbLayer::getTitleVisible() const { return titleVisible.get(*this); }
+void OrbLayer::setTitleVisible(bool value) { titleVisible.set(*this, value); }
+bool OrbLayer::isTitleVisiblePresent() const { return titleVisible.isPresent(*this); }
+void OrbLayer::removeTitleVisible() { titleVisible.remove(*this); }

@@ -9,30 +9,37 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Boolean closed{OrbLine::_UTF_closed};
+constexpr Boolean preserveStraightLines{OrbUni::_preserveStraightLines};
+constexpr Boolean showDiscontinuity{OrbLine::_UTF_showDiscontinuity};
+constexpr auto& breakRepresentation = breakRepresentationOf<OrbLine>;
+
+using Attributes = AttributeList<closed, preserveStraightLines, showDiscontinuity, breakRepresentation>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbLine>() {
+  return elementDescription<OrbLine, DerivedFrom<CTElementType>, Attributes>;
+}
+
 OrbLine::OrbLine(DOMElement* element) : CTElementType(element) { bind(*this); }
 OrbLine::OrbLine(DOMElement* element, const XMLCh* id) : CTElementType(element, id) { bind(*this); }
 OrbLine::~OrbLine() = default;
 
-bool OrbLine::getClosed() const { return readBoolean(*this, _UTF_closed); }
-void OrbLine::setClosed(bool closed) { writeBoolean(*this, _UTF_closed, closed); }
-void OrbLine::removeClosed() { removeAttribute(*this, _UTF_closed); }
+bool OrbLine::getClosed() const { return closed.get(*this); }
+void OrbLine::setClosed(bool value) { closed.set(*this, value); }
+void OrbLine::removeClosed() { closed.remove(*this); }
 
-bool OrbLine::getPreserveStraightLines() const { return readBoolean(*this, OrbUni::_preserveStraightLines); }
-void OrbLine::setPreserveStraightLines(bool preserveStraightLines) {
-  writeBoolean(*this, OrbUni::_preserveStraightLines, preserveStraightLines);
-}
-void OrbLine::removePreserveStraightLines() { removeAttribute(*this, OrbUni::_preserveStraightLines); }
+bool OrbLine::getPreserveStraightLines() const { return preserveStraightLines.get(*this); }
+void OrbLine::setPreserveStraightLines(bool value) { preserveStraightLines.set(*this, value); }
+void OrbLine::removePreserveStraightLines() { preserveStraightLines.remove(*this); }
 
-bool OrbLine::getShowDiscontinuity() const { return readBoolean(*this, _UTF_showDiscontinuity); }
-void OrbLine::setShowDiscontinuity(bool showDiscontinuity) {
-  writeBoolean(*this, _UTF_showDiscontinuity, showDiscontinuity);
-}
-void OrbLine::removeShowDiscontinuity() { removeAttribute(*this, _UTF_showDiscontinuity); }
+bool OrbLine::getShowDiscontinuity() const { return showDiscontinuity.get(*this); }
+void OrbLine::setShowDiscontinuity(bool value) { showDiscontinuity.set(*this, value); }
+void OrbLine::removeShowDiscontinuity() { showDiscontinuity.remove(*this); }
 
-OrbLine::ENUM_breakRepresentation OrbLine::getBreakRepresentation() const {
-  return readKeyword(*this, _UTF_breakRepresentation, breakRepresentations<OrbLine>, breakRepresentation_unset);
-}
-void OrbLine::setBreakRepresentation(ENUM_breakRepresentation breakRepresentation) {
-  writeKeyword(*this, _UTF_breakRepresentation, breakRepresentations<OrbLine>, breakRepresentation);
-}
-void OrbLine::removeBreakRepresentation() { removeAttribute(*this, _UTF_breakRepresentation); }
+OrbLine::ENUM_breakRepresentation OrbLine::getBreakRepresentation() const { return breakRepresentation.get(*this); }
+void OrbLine::setBreakRepresentation(ENUM_breakRepresentation value) { breakRepresentation.set(*this, value); }
+void OrbLine::removeBreakRepresentation() { breakRepresentation.remove(*this); }

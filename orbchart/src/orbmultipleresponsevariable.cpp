@@ -8,7 +8,22 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbMultipleResponseVariable::Children : ChildFamilies<FamilyList<OrbVariableReference>> {};
+namespace {
+
+constexpr Boolean categoryComponents{OrbMultipleResponseVariable::_UTF_categoryComponents};
+
+using Attributes = AttributeList<categoryComponents>;
+
+using Families = ChildFamilies<FamilyList<OrbVariableReference>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbMultipleResponseVariable>() {
+  return elementDescription<OrbMultipleResponseVariable, DerivedWithoutChildrenFrom<CTVariableType>, Attributes,
+                            Families>;
+}
+
+struct OrbMultipleResponseVariable::Children : Families {};
 
 OrbMultipleResponseVariable::OrbMultipleResponseVariable(DOMElement* element) :
     CTVariableType(element, WithoutChildren()), children_(new Children) {
@@ -17,14 +32,10 @@ OrbMultipleResponseVariable::OrbMultipleResponseVariable(DOMElement* element) :
 }
 OrbMultipleResponseVariable::~OrbMultipleResponseVariable() = default;
 
-bool OrbMultipleResponseVariable::getCategoryComponents() const { return readBoolean(*this, _UTF_categoryComponents); }
-void OrbMultipleResponseVariable::setCategoryComponents(bool categoryComponents) {
-  writeBoolean(*this, _UTF_categoryComponents, categoryComponents);
-}
-bool OrbMultipleResponseVariable::isCategoryComponentsPresent() const {
-  return isPresent(*this, _UTF_categoryComponents);
-}
-void OrbMultipleResponseVariable::removeCategoryComponents() { removeAttribute(*this, _UTF_categoryComponents); }
+bool OrbMultipleResponseVariable::getCategoryComponents() const { return categoryComponents.get(*this); }
+void OrbMultipleResponseVariable::setCategoryComponents(bool value) { categoryComponents.set(*this, value); }
+bool OrbMultipleResponseVariable::isCategoryComponentsPresent() const { return categoryComponents.isPresent(*this); }
+void OrbMultipleResponseVariable::removeCategoryComponents() { categoryComponents.remove(*this); }
 
 OrbVariableReference* OrbMultipleResponseVariable::addVariableReference() {
   return children_->add<OrbVariableReference>(*this, atEnd);

@@ -1,10 +1,15 @@
 // One name of a variable.
 #include "orbname.h"
 
+#include "attribute.h"
 #include "elementtext.h"
 #include "loading.h"
 
 using namespace orbchart;
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbName>() {
+  return elementDescription<OrbName, BearsText>;
+}
 
 OrbName::OrbName(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbName::~OrbName() = default;

@@ -1,10 +1,15 @@
 // The variable names of an embedded source.
 #include "orbnames.h"
 
+#include "attribute.h"
 #include "elementtext.h"
 #include "loading.h"
 
 using namespace orbchart;
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbNames>() {
+  return elementDescription<OrbNames, BearsText>;
+}
 
 OrbNames::OrbNames(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbNames::~OrbNames() = default;

@@ -7,7 +7,21 @@
 
 using namespace orbchart;
 
-struct OrbNest::Children : ChildFamilies<AlgebraOperands> {};
+namespace {
+
+constexpr Id id;
+
+using Attributes = AttributeList<id>;
+
+using Families = ChildFamilies<AlgebraOperandsWithoutIds>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbNest>() {
+  return elementDescription<OrbNest, Attributes, Families>;
+}
+
+struct OrbNest::Children : Families {};
 
 OrbNest::OrbNest(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -15,21 +29,21 @@ OrbNest::OrbNest(xercesc::DOMElement* element) : OrbBaseElement(element), childr
 }
 OrbNest::~OrbNest() = default;
 
-const XMLCh* OrbNest::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbNest::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbNest::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbNest::getId() const { return id.get(*this); }
+void OrbNest::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbNest::removeId() { id.remove(*this); }
 
 OrbBlend* OrbNest::addBlend() { return children_->add<OrbBlend>(*this, atEnd); }
 std::vector<OrbBlend*> OrbNest::getBlends() const { return children_->all<OrbBlend>(); }
-unsigned int OrbNest::removeBlends() { return children_->removeAll<OrbBlend>(*this, Ids::strip); }
+unsigned int OrbNest::removeBlends() { return children_->removeAll<OrbBlend>(*this); }
 
 OrbCross* OrbNest::addCross() { return children_->add<OrbCross>(*this, atEnd); }
 std::vector<OrbCross*> OrbNest::getCrosss() const { return children_->all<OrbCross>(); }
-unsigned int OrbNest::removeCrosss() { return children_->removeAll<OrbCross>(*this, Ids::strip); }
+unsigned int OrbNest::removeCrosss() { return children_->removeAll<OrbCross>(*this); }
 
 OrbNest* OrbNest::addNest() { return children_->add<OrbNest>(*this, atEnd); }
 std::vector<OrbNest*> OrbNest::getNests() const { return children_->all<OrbNest>(); }
-unsigned int OrbNest::removeNests() { return children_->removeAll<OrbNest>(*this, Ids::strip); }
+unsigned int OrbNest::removeNests() { return children_->removeAll<OrbNest>(*this); }
 
 OrbVariableReference* OrbNest::addVariableReference() { return children_->add<OrbVariableReference>(*this, atEnd); }
 std::vector<OrbVariableReference*> OrbNest::getVariableReferences() const {

@@ -7,18 +7,32 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Text low{OrbUni::_low};
+constexpr Text high{OrbUni::_high};
+constexpr Text missing{OrbOffset::_UTF_missing};
+
+using Attributes = AttributeList<low, high, missing>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbOffset>() {
+  return elementDescription<OrbOffset, DerivedFrom<CTAesthetic>, Attributes>;
+}
+
 OrbOffset::OrbOffset(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
 OrbOffset::~OrbOffset() = default;
 
-const XMLCh* OrbOffset::getLow() const { return GetAttribute(OrbUni::_low); }
-void OrbOffset::setLow(const XMLCh* low) { SetAttribute(OrbUni::_low, low); }
-void OrbOffset::removeLow() { removeAttribute(*this, OrbUni::_low); }
+const XMLCh* OrbOffset::getLow() const { return low.get(*this); }
+void OrbOffset::setLow(const XMLCh* value) { low.set(*this, value); }
+void OrbOffset::removeLow() { low.remove(*this); }
 
-const XMLCh* OrbOffset::getHigh() const { return GetAttribute(OrbUni::_high); }
-void OrbOffset::setHigh(const XMLCh* high) { SetAttribute(OrbUni::_high, high); }
-void OrbOffset::removeHigh() { removeAttribute(*this, OrbUni::_high); }
+const XMLCh* OrbOffset::getHigh() const { return high.get(*this); }
+void OrbOffset::setHigh(const XMLCh* value) { high.set(*this, value); }
+void OrbOffset::removeHigh() { high.remove(*this); }
 
-const XMLCh* OrbOffset::getMissing() const { return GetAttribute(_UTF_missing); }
-void OrbOffset::setMissing(const XMLCh* missing) { SetAttribute(_UTF_missing, missing); }
-bool OrbOffset::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbOffset::removeMissing() { removeAttribute(*this, _UTF_missing); }
+const XMLCh* OrbOffset::getMissing() const { return missing.get(*this); }
+void OrbOffset::setMissing(const XMLCh* value) { missing.set(*this, value); }
+bool OrbOffset::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbOffset::removeMissing() { missing.remove(*this); }

@@ -9,30 +9,37 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Boolean closed{OrbPath::_UTF_closed};
+constexpr Boolean preserveStraightLines{OrbUni::_preserveStraightLines};
+constexpr Boolean showDiscontinuity{OrbPath::_UTF_showDiscontinuity};
+constexpr auto& breakRepresentation = breakRepresentationOf<OrbPath>;
+
+using Attributes = AttributeList<closed, preserveStraightLines, showDiscontinuity, breakRepresentation>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbPath>() {
+  return elementDescription<OrbPath, DerivedFrom<CTElementType>, Attributes>;
+}
+
 OrbPath::OrbPath(DOMElement* element) : CTElementType(element) { bind(*this); }
 OrbPath::OrbPath(DOMElement* element, const XMLCh* id) : CTElementType(element, id) { bind(*this); }
 OrbPath::~OrbPath() = default;
 
-bool OrbPath::getClosed() const { return readBoolean(*this, _UTF_closed); }
-void OrbPath::setClosed(bool closed) { writeBoolean(*this, _UTF_closed, closed); }
-void OrbPath::removeClosed() { removeAttribute(*this, _UTF_closed); }
+bool OrbPath::getClosed() const { return closed.get(*this); }
+void OrbPath::setClosed(bool value) { closed.set(*this, value); }
+void OrbPath::removeClosed() { closed.remove(*this); }
 
-bool OrbPath::getPreserveStraightLines() const { return readBoolean(*this, OrbUni::_preserveStraightLines); }
-void OrbPath::setPreserveStraightLines(bool preserveStraightLines) {
-  writeBoolean(*this, OrbUni::_preserveStraightLines, preserveStraightLines);
-}
-void OrbPath::removePreserveStraightLines() { removeAttribute(*this, OrbUni::_preserveStraightLines); }
+bool OrbPath::getPreserveStraightLines() const { return preserveStraightLines.get(*this); }
+void OrbPath::setPreserveStraightLines(bool value) { preserveStraightLines.set(*this, value); }
+void OrbPath::removePreserveStraightLines() { preserveStraightLines.remove(*this); }
 
-bool OrbPath::getShowDiscontinuity() const { return readBoolean(*this, _UTF_showDiscontinuity); }
-void OrbPath::setShowDiscontinuity(bool showDiscontinuity) {
-  writeBoolean(*this, _UTF_showDiscontinuity, showDiscontinuity);
-}
-void OrbPath::removeShowDiscontinuity() { removeAttribute(*this, _UTF_showDiscontinuity); }
+bool OrbPath::getShowDiscontinuity() const { return showDiscontinuity.get(*this); }
+void OrbPath::setShowDiscontinuity(bool value) { showDiscontinuity.set(*this, value); }
+void OrbPath::removeShowDiscontinuity() { showDiscontinuity.remove(*this); }
 
-OrbPath::ENUM_breakRepresentation OrbPath::getBreakRepresentation() const {
-  return readKeyword(*this, _UTF_breakRepresentation, breakRepresentations<OrbPath>, breakRepresentation_unset);
-}
-void OrbPath::setBreakRepresentation(ENUM_breakRepresentation breakRepresentation) {
-  writeKeyword(*this, _UTF_breakRepresentation, breakRepresentations<OrbPath>, breakRepresentation);
-}
-void OrbPath::removeBreakRepresentation() { removeAttribute(*this, _UTF_breakRepresentation); }
+OrbPath::ENUM_breakRepresentation OrbPath::getBreakRepresentation() const { return breakRepresentation.get(*this); }
+void OrbPath::setBreakRepresentation(ENUM_breakRepresentation value) { breakRepresentation.set(*this, value); }
+void OrbPath::removeBreakRepresentation() { breakRepresentation.remove(*this); }

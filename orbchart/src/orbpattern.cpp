@@ -7,13 +7,26 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Text cycle{OrbUni::_cycle};
+constexpr Unsigned missing{OrbPattern::_UTF_missing};
+
+using Attributes = AttributeList<cycle, missing>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbPattern>() {
+  return elementDescription<OrbPattern, DerivedFrom<CTAesthetic>, Attributes>;
+}
+
 OrbPattern::OrbPattern(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
 OrbPattern::~OrbPattern() = default;
 
-bool OrbPattern::isCyclePresent() const { return isPresent(*this, OrbUni::_cycle); }
-void OrbPattern::removeCycle() { removeAttribute(*this, OrbUni::_cycle); }
+bool OrbPattern::isCyclePresent() const { return cycle.isPresent(*this); }
+void OrbPattern::removeCycle() { cycle.remove(*this); }
 
-unsigned int OrbPattern::getMissing() const { return readUnsigned(*this, _UTF_missing); }
-void OrbPattern::setMissing(unsigned int missing) { writeUnsigned(*this, _UTF_missing, missing); }
-bool OrbPattern::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbPattern::removeMissing() { removeAttribute(*this, _UTF_missing); }
+unsigned int OrbPattern::getMissing() const { return missing.get(*this); }
+void OrbPattern::setMissing(unsigned int value) { missing.set(*this, value); }
+bool OrbPattern::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbPattern::removeMissing() { missing.remove(*this); }

@@ -8,12 +8,22 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Boolean preserveStraightLines{OrbUni::_preserveStraightLines};
+
+using Attributes = AttributeList<preserveStraightLines>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbPolygon>() {
+  return elementDescription<OrbPolygon, DerivedFrom<CTElementType>, Attributes>;
+}
+
 OrbPolygon::OrbPolygon(DOMElement* element) : CTElementType(element) { bind(*this); }
 OrbPolygon::OrbPolygon(DOMElement* element, const XMLCh* id) : CTElementType(element, id) { bind(*this); }
 OrbPolygon::~OrbPolygon() = default;
 
-bool OrbPolygon::getPreserveStraightLines() const { return readBoolean(*this, OrbUni::_preserveStraightLines); }
-void OrbPolygon::setPreserveStraightLines(bool preserveStraightLines) {
-  writeBoolean(*this, OrbUni::_preserveStraightLines, preserveStraightLines);
-}
-void OrbPolygon::removePreserveStraightLines() { removeAttribute(*this, OrbUni::_preserveStraightLines); }
+bool OrbPolygon::getPreserveStraightLines() const { return preserveStraightLines.get(*this); }
+void OrbPolygon::setPreserveStraightLines(bool value) { preserveStraightLines.set(*this, value); }
+void OrbPolygon::removePreserveStraightLines() { preserveStraightLines.remove(*this); }

@@ -3,5 +3,11 @@
 
 #include "loading.h"
 
-OrbPosition::OrbPosition(xercesc::DOMElement* element) : CTCoordinate(element) { orbchart::bindLeaf(*this); }
+using namespace orbchart;
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbPosition>() {
+  return elementDescription<OrbPosition, DerivedFrom<CTCoordinate>>;
+}
+
+OrbPosition::OrbPosition(xercesc::DOMElement* element) : CTCoordinate(element) { bindLeaf(*this); }
 OrbPosition::~OrbPosition() = default;

@@ -7,22 +7,37 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Id id;
+constexpr Text min{OrbUni::_min};
+constexpr Text max{OrbUni::_max};
+constexpr Boolean exact{OrbUni::_exact};
+
+using Attributes = AttributeList<id, min, max, exact>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbRange>() {
+  return elementDescription<OrbRange, Attributes>;
+}
+
 OrbRange::OrbRange(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbRange::~OrbRange() = default;
 
-const XMLCh* OrbRange::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbRange::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbRange::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbRange::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbRange::getId() const { return id.get(*this); }
+void OrbRange::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbRange::isIdPresent() const { return id.isPresent(*this); }
+void OrbRange::removeId() { id.remove(*this); }
 
-const XMLCh* OrbRange::getMin() const { return GetAttribute(OrbUni::_min); }
-void OrbRange::setMin(const XMLCh* min) { SetAttribute(OrbUni::_min, min); }
-void OrbRange::removeMin() { removeAttribute(*this, OrbUni::_min); }
+const XMLCh* OrbRange::getMin() const { return min.get(*this); }
+void OrbRange::setMin(const XMLCh* value) { min.set(*this, value); }
+void OrbRange::removeMin() { min.remove(*this); }
 
-const XMLCh* OrbRange::getMax() const { return GetAttribute(OrbUni::_max); }
-void OrbRange::setMax(const XMLCh* max) { SetAttribute(OrbUni::_max, max); }
-void OrbRange::removeMax() { removeAttribute(*this, OrbUni::_max); }
+const XMLCh* OrbRange::getMax() const { return max.get(*this); }
+void OrbRange::setMax(const XMLCh* value) { max.set(*this, value); }
+void OrbRange::removeMax() { max.remove(*this); }
 
-bool OrbRange::getExact() const { return readBoolean(*this, OrbUni::_exact); }
-void OrbRange::setExact(bool exact) { writeBoolean(*this, OrbUni::_exact, exact); }
-void OrbRange::removeExact() { removeAttribute(*this, OrbUni::_exact); }
+bool OrbRange::getExact() const { return exact.get(*this); }
+void OrbRange::setExact(bool value) { exact.set(*this, value); }
+void OrbRange::removeExact() { exact.remove(*this); }

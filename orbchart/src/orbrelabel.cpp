@@ -12,6 +12,20 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Id id;
+constexpr Text from{OrbUni::_from};
+constexpr Text to{OrbUni::_to};
+
+using Attributes = AttributeList<id, from, to>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbRelabel>() {
+  return elementDescription<OrbRelabel, Attributes>;
+}
+
 OrbRelabel::OrbRelabel(DOMElement* element) : OrbBaseElement(element) { refuseDeepContent(*this); }
 OrbRelabel::OrbRelabel(DOMElement* element, const XMLCh* from, const XMLCh* to) : OrbRelabel(element) {
   setFrom(from);
@@ -21,17 +35,17 @@ OrbRelabel::~OrbRelabel() = default;
 
 void OrbRelabel::init() { bind(*this); }
 
-const XMLCh* OrbRelabel::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbRelabel::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbRelabel::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbRelabel::getId() const { return id.get(*this); }
+void OrbRelabel::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbRelabel::removeId() { id.remove(*this); }
 
-const XMLCh* OrbRelabel::getFrom() const { return GetAttribute(OrbUni::_from); }
-void OrbRelabel::setFrom(const XMLCh* from) { SetAttribute(OrbUni::_from, from); }
+const XMLCh* OrbRelabel::getFrom() const { return from.get(*this); }
+void OrbRelabel::setFrom(const XMLCh* value) { from.set(*this, value); }
 
-const XMLCh* OrbRelabel::getTo() const { return GetAttribute(OrbUni::_to); }
-void OrbRelabel::setTo(const XMLCh* to) {
+const XMLCh* OrbRelabel::getTo() const { return to.get(*this); }
+void OrbRelabel::setTo(const XMLCh* value) {
   // Past SetAttribute, which writes no empty text. The copy is for the attribute's own text: Xerces gives the old value
   // back before it reads the new one.
-  const std::basic_string<XMLCh> text(to == nullptr ? u"" : to);
-  getImplementation()->setAttribute(OrbUni::_to, text.c_str());
+  const std::basic_string<XMLCh> text(value == nullptr ? u"" : value);
+  getImplementation()->setAttribute(to.name, text.c_str());
 }

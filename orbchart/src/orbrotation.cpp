@@ -7,25 +7,40 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Double low{OrbUni::_low};
+constexpr Double high{OrbUni::_high};
+constexpr Double missing{OrbRotation::_UTF_missing};
+
+using Attributes = AttributeList<low, high, missing>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbRotation>() {
+  return elementDescription<OrbRotation, DerivedFrom<CTAesthetic>, Attributes>;
+}
+
 OrbRotation::OrbRotation(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
 OrbRotation::~OrbRotation() = default;
 
-double OrbRotation::getLow() const { return readDouble(*this, OrbUni::_low); }
-void OrbRotation::setLow(double low) { writeDouble(*this, OrbUni::_low, low); }
-void OrbRotation::removeLow() { removeAttribute(*this, OrbUni::_low); }
+double OrbRotation::getLow() const { return low.get(*this); }
+void OrbRotation::setLow(double value) { low.set(*this, value); }
+void OrbRotation::removeLow() { low.remove(*this); }
 
-double OrbRotation::getHigh() const { return readDouble(*this, OrbUni::_high); }
-void OrbRotation::setHigh(double high) { writeDouble(*this, OrbUni::_high, high); }
-void OrbRotation::removeHigh() { removeAttribute(*this, OrbUni::_high); }
+double OrbRotation::getHigh() const { return high.get(*this); }
+void OrbRotation::setHigh(double value) { high.set(*this, value); }
+void OrbRotation::removeHigh() { high.remove(*this); }
 
-double OrbRotation::getMissing() const { return readDouble(*this, _UTF_missing); }
-void OrbRotation::setMissing(double missing) {
-  if (missing > 360.0)
-    writeInteger(*this, _UTF_missing, 360);
-  else if (missing < 0.0)
-    writeInteger(*this, _UTF_missing, 0);
+double OrbRotation::getMissing() const { return missing.get(*this); }
+// Alone among the setters it keeps its value within bounds.
+void OrbRotation::setMissing(double value) {
+  if (value > 360.0)
+    writeInteger(*this, missing.name, 360);
+  else if (value < 0.0)
+    writeInteger(*this, missing.name, 0);
   else
-    writeDouble(*this, _UTF_missing, missing);
+    missing.set(*this, value);
 }
-bool OrbRotation::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbRotation::removeMissing() { removeAttribute(*this, _UTF_missing); }
+bool OrbRotation::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbRotation::removeMissing() { missing.remove(*this); }

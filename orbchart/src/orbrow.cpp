@@ -1,6 +1,7 @@
 // One row of an embedded source.
 #include "orbrow.h"
 
+#include "attribute.h"
 #include "elementtext.h"
 #include "loading.h"
 
@@ -29,6 +30,10 @@ private:
 };
 
 } // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbRow>() {
+  return elementDescription<OrbRow, BearsText>;
+}
 
 OrbRow::OrbRow(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbRow::~OrbRow() = default;

@@ -8,7 +8,26 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbSavFileSource::Children : ChildFamilies<SourceFamilies> {};
+namespace {
+
+constexpr Id id;
+constexpr auto& missing = missingOf<OrbSavFileSource>;
+constexpr Boolean filterToMissing{OrbSavFileSource::_UTF_filterToMissing};
+constexpr Text fileName{OrbUni::_fileName};
+constexpr Text url{OrbUni::_url};
+constexpr Boolean OpenAccessDriver{OrbSavFileSource::_UTF_OpenAccessDriver};
+
+using Attributes = AttributeList<id, missing, filterToMissing, fileName, url, OpenAccessDriver>;
+
+using Families = SourceFamilies;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbSavFileSource>() {
+  return elementDescription<OrbSavFileSource, Attributes, Families>;
+}
+
+struct OrbSavFileSource::Children : Families {};
 
 OrbSavFileSource::OrbSavFileSource(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -16,43 +35,35 @@ OrbSavFileSource::OrbSavFileSource(DOMElement* element) : OrbBaseElement(element
 }
 OrbSavFileSource::~OrbSavFileSource() = default;
 
-const XMLCh* OrbSavFileSource::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbSavFileSource::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbSavFileSource::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbSavFileSource::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbSavFileSource::getId() const { return id.get(*this); }
+void OrbSavFileSource::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbSavFileSource::isIdPresent() const { return id.isPresent(*this); }
+void OrbSavFileSource::removeId() { id.remove(*this); }
 
-OrbSavFileSource::ENUM_missing OrbSavFileSource::getMissing() const {
-  return readKeyword(*this, _UTF_missing, missingKeywords<OrbSavFileSource>, missing_unset);
-}
-void OrbSavFileSource::setMissing(ENUM_missing missing) {
-  writeKeyword(*this, _UTF_missing, missingKeywords<OrbSavFileSource>, missing);
-}
-bool OrbSavFileSource::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbSavFileSource::removeMissing() { removeAttribute(*this, _UTF_missing); }
+OrbSavFileSource::ENUM_missing OrbSavFileSource::getMissing() const { return missing.get(*this); }
+void OrbSavFileSource::setMissing(ENUM_missing value) { missing.set(*this, value); }
+bool OrbSavFileSource::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbSavFileSource::removeMissing() { missing.remove(*this); }
 
-bool OrbSavFileSource::getFilterToMissing() const { return readBoolean(*this, _UTF_filterToMissing); }
-void OrbSavFileSource::setFilterToMissing(bool filterToMissing) {
-  writeBoolean(*this, _UTF_filterToMissing, filterToMissing);
-}
-bool OrbSavFileSource::isFilterToMissingPresent() const { return isPresent(*this, _UTF_filterToMissing); }
-void OrbSavFileSource::removeFilterToMissing() { removeAttribute(*this, _UTF_filterToMissing); }
+bool OrbSavFileSource::getFilterToMissing() const { return filterToMissing.get(*this); }
+void OrbSavFileSource::setFilterToMissing(bool value) { filterToMissing.set(*this, value); }
+bool OrbSavFileSource::isFilterToMissingPresent() const { return filterToMissing.isPresent(*this); }
+void OrbSavFileSource::removeFilterToMissing() { filterToMissing.remove(*this); }
 
-const XMLCh* OrbSavFileSource::getFileName() const { return GetAttribute(OrbUni::_fileName); }
-void OrbSavFileSource::setFileName(const XMLCh* fileName) { SetAttribute(OrbUni::_fileName, fileName); }
-bool OrbSavFileSource::isFileNamePresent() const { return isPresent(*this, OrbUni::_fileName); }
-void OrbSavFileSource::removeFileName() { removeAttribute(*this, OrbUni::_fileName); }
+const XMLCh* OrbSavFileSource::getFileName() const { return fileName.get(*this); }
+void OrbSavFileSource::setFileName(const XMLCh* value) { fileName.set(*this, value); }
+bool OrbSavFileSource::isFileNamePresent() const { return fileName.isPresent(*this); }
+void OrbSavFileSource::removeFileName() { fileName.remove(*this); }
 
-const XMLCh* OrbSavFileSource::getUrl() const { return GetAttribute(OrbUni::_url); }
-void OrbSavFileSource::setUrl(const XMLCh* url) { SetAttribute(OrbUni::_url, url); }
-bool OrbSavFileSource::isUrlPresent() const { return isPresent(*this, OrbUni::_url); }
-void OrbSavFileSource::removeUrl() { removeAttribute(*this, OrbUni::_url); }
+const XMLCh* OrbSavFileSource::getUrl() const { return url.get(*this); }
+void OrbSavFileSource::setUrl(const XMLCh* value) { url.set(*this, value); }
+bool OrbSavFileSource::isUrlPresent() const { return url.isPresent(*this); }
+void OrbSavFileSource::removeUrl() { url.remove(*this); }
 
-bool OrbSavFileSource::getOpenAccessDriver() const { return readBoolean(*this, _UTF_OpenAccessDriver); }
-void OrbSavFileSource::setOpenAccessDriver(bool openAccessDriver) {
-  writeBoolean(*this, _UTF_OpenAccessDriver, openAccessDriver);
-}
-bool OrbSavFileSource::isOpenAccessDriverPresent() const { return isPresent(*this, _UTF_OpenAccessDriver); }
-void OrbSavFileSource::removeOpenAccessDriver() { removeAttribute(*this, _UTF_OpenAccessDriver); }
+bool OrbSavFileSource::getOpenAccessDriver() const { return OpenAccessDriver.get(*this); }
+void OrbSavFileSource::setOpenAccessDriver(bool value) { OpenAccessDriver.set(*this, value); }
+bool OrbSavFileSource::isOpenAccessDriverPresent() const { return OpenAccessDriver.isPresent(*this); }
+void OrbSavFileSource::removeOpenAccessDriver() { OpenAccessDriver.remove(*this); }
 
 OrbAggregate* OrbSavFileSource::addAggregate() { return children_->add<OrbAggregate>(*this, atEnd); }
 std::vector<OrbAggregate*> OrbSavFileSource::getAggregates() const { return children_->all<OrbAggregate>(); }

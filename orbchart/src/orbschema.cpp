@@ -9,26 +9,42 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Reference<OrbStyle> medianStyle{OrbSchema::_UTF_medianStyle};
+constexpr Reference<OrbStyle> fenceStyle{OrbSchema::_UTF_fenceStyle};
+constexpr Reference<OrbStyle> hingeStyle{OrbSchema::_UTF_hingeStyle};
+constexpr Reference<OrbStyle> outlierStyle{OrbSchema::_UTF_outlierStyle};
+constexpr Reference<OrbStyle> extremeStyle{OrbSchema::_UTF_extremeStyle};
+
+using Attributes = AttributeList<medianStyle, fenceStyle, hingeStyle, outlierStyle, extremeStyle>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbSchema>() {
+  return elementDescription<OrbSchema, DerivedFrom<CTElementType>, Attributes>;
+}
+
 OrbSchema::OrbSchema(DOMElement* element) : CTElementType(element) { bind(*this); }
 OrbSchema::OrbSchema(DOMElement* element, const XMLCh* id) : CTElementType(element, id) { bind(*this); }
 OrbSchema::~OrbSchema() = default;
 
-OrbStyle* OrbSchema::getMedianStyle() const { return readReference<OrbStyle>(*this, _UTF_medianStyle); }
-void OrbSchema::setMedianStyle(const OrbStyle& style) { writeReference(*this, _UTF_medianStyle, style); }
-void OrbSchema::removeMedianStyle() { removeAttribute(*this, _UTF_medianStyle); }
+OrbStyle* OrbSchema::getMedianStyle() const { return medianStyle.get(*this); }
+void OrbSchema::setMedianStyle(const OrbStyle& target) { medianStyle.set(*this, target); }
+void OrbSchema::removeMedianStyle() { medianStyle.remove(*this); }
 
-OrbStyle* OrbSchema::getFenceStyle() const { return readReference<OrbStyle>(*this, _UTF_fenceStyle); }
-void OrbSchema::setFenceStyle(const OrbStyle& style) { writeReference(*this, _UTF_fenceStyle, style); }
-void OrbSchema::removeFenceStyle() { removeAttribute(*this, _UTF_fenceStyle); }
+OrbStyle* OrbSchema::getFenceStyle() const { return fenceStyle.get(*this); }
+void OrbSchema::setFenceStyle(const OrbStyle& target) { fenceStyle.set(*this, target); }
+void OrbSchema::removeFenceStyle() { fenceStyle.remove(*this); }
 
-OrbStyle* OrbSchema::getHingeStyle() const { return readReference<OrbStyle>(*this, _UTF_hingeStyle); }
-void OrbSchema::setHingeStyle(const OrbStyle& style) { writeReference(*this, _UTF_hingeStyle, style); }
-void OrbSchema::removeHingeStyle() { removeAttribute(*this, _UTF_hingeStyle); }
+OrbStyle* OrbSchema::getHingeStyle() const { return hingeStyle.get(*this); }
+void OrbSchema::setHingeStyle(const OrbStyle& target) { hingeStyle.set(*this, target); }
+void OrbSchema::removeHingeStyle() { hingeStyle.remove(*this); }
 
-OrbStyle* OrbSchema::getOutlierStyle() const { return readReference<OrbStyle>(*this, _UTF_outlierStyle); }
-void OrbSchema::setOutlierStyle(const OrbStyle& style) { writeReference(*this, _UTF_outlierStyle, style); }
-void OrbSchema::removeOutlierStyle() { removeAttribute(*this, _UTF_outlierStyle); }
+OrbStyle* OrbSchema::getOutlierStyle() const { return outlierStyle.get(*this); }
+void OrbSchema::setOutlierStyle(const OrbStyle& target) { outlierStyle.set(*this, target); }
+void OrbSchema::removeOutlierStyle() { outlierStyle.remove(*this); }
 
-OrbStyle* OrbSchema::getExtremeStyle() const { return readReference<OrbStyle>(*this, _UTF_extremeStyle); }
-void OrbSchema::setExtremeStyle(const OrbStyle& style) { writeReference(*this, _UTF_extremeStyle, style); }
-void OrbSchema::removeExtremeStyle() { removeAttribute(*this, _UTF_extremeStyle); }
+OrbStyle* OrbSchema::getExtremeStyle() const { return extremeStyle.get(*this); }
+void OrbSchema::setExtremeStyle(const OrbStyle& target) { extremeStyle.set(*this, target); }
+void OrbSchema::removeExtremeStyle() { extremeStyle.remove(*this); }

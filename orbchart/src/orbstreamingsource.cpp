@@ -8,7 +8,24 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbStreamingSource::Children : ChildFamilies<SourceFamilies> {};
+namespace {
+
+constexpr Id id;
+constexpr auto& missing = missingOf<OrbStreamingSource>;
+constexpr Boolean filterToMissing{OrbStreamingSource::_UTF_filterToMissing};
+constexpr Text url{OrbUni::_url};
+
+using Attributes = AttributeList<id, missing, filterToMissing, url>;
+
+using Families = SourceFamilies;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbStreamingSource>() {
+  return elementDescription<OrbStreamingSource, Attributes, Families>;
+}
+
+struct OrbStreamingSource::Children : Families {};
 
 OrbStreamingSource::OrbStreamingSource(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -21,28 +38,22 @@ OrbStreamingSource::OrbStreamingSource(DOMElement* element, const XMLCh* id, con
 }
 OrbStreamingSource::~OrbStreamingSource() = default;
 
-const XMLCh* OrbStreamingSource::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbStreamingSource::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbStreamingSource::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbStreamingSource::getId() const { return id.get(*this); }
+void OrbStreamingSource::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbStreamingSource::removeId() { id.remove(*this); }
 
-OrbStreamingSource::ENUM_missing OrbStreamingSource::getMissing() const {
-  return readKeyword(*this, _UTF_missing, missingKeywords<OrbStreamingSource>, missing_unset);
-}
-void OrbStreamingSource::setMissing(ENUM_missing missing) {
-  writeKeyword(*this, _UTF_missing, missingKeywords<OrbStreamingSource>, missing);
-}
-bool OrbStreamingSource::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbStreamingSource::removeMissing() { removeAttribute(*this, _UTF_missing); }
+OrbStreamingSource::ENUM_missing OrbStreamingSource::getMissing() const { return missing.get(*this); }
+void OrbStreamingSource::setMissing(ENUM_missing value) { missing.set(*this, value); }
+bool OrbStreamingSource::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbStreamingSource::removeMissing() { missing.remove(*this); }
 
-bool OrbStreamingSource::getFilterToMissing() const { return readBoolean(*this, _UTF_filterToMissing); }
-void OrbStreamingSource::setFilterToMissing(bool filterToMissing) {
-  writeBoolean(*this, _UTF_filterToMissing, filterToMissing);
-}
-bool OrbStreamingSource::isFilterToMissingPresent() const { return isPresent(*this, _UTF_filterToMissing); }
-void OrbStreamingSource::removeFilterToMissing() { removeAttribute(*this, _UTF_filterToMissing); }
+bool OrbStreamingSource::getFilterToMissing() const { return filterToMissing.get(*this); }
+void OrbStreamingSource::setFilterToMissing(bool value) { filterToMissing.set(*this, value); }
+bool OrbStreamingSource::isFilterToMissingPresent() const { return filterToMissing.isPresent(*this); }
+void OrbStreamingSource::removeFilterToMissing() { filterToMissing.remove(*this); }
 
-const XMLCh* OrbStreamingSource::getUrl() const { return GetAttribute(OrbUni::_url); }
-void OrbStreamingSource::setUrl(const XMLCh* url) { SetAttribute(OrbUni::_url, url); }
+const XMLCh* OrbStreamingSource::getUrl() const { return url.get(*this); }
+void OrbStreamingSource::setUrl(const XMLCh* value) { url.set(*this, value); }
 
 OrbAggregate* OrbStreamingSource::addAggregate() {
   return children_->add<OrbAggregate>(*this, AfterSourceAggregates{});

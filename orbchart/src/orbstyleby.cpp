@@ -7,14 +7,28 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Text styleCycle{OrbUni::_styleCycle};
+constexpr Text affects{OrbUni::_affects};
+constexpr Text missing{OrbStyleBy::_UTF_missing};
+
+using Attributes = AttributeList<styleCycle, affects, missing>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbStyleBy>() {
+  return elementDescription<OrbStyleBy, DerivedFrom<CTAesthetic>, Attributes>;
+}
+
 OrbStyleBy::OrbStyleBy(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
 OrbStyleBy::~OrbStyleBy() = default;
 
-void OrbStyleBy::removeStyleCycle() { removeAttribute(*this, OrbUni::_styleCycle); }
+void OrbStyleBy::removeStyleCycle() { styleCycle.remove(*this); }
 
-const XMLCh* OrbStyleBy::getAffects() const { return GetAttribute(OrbUni::_affects); }
-void OrbStyleBy::setAffects(const XMLCh* affects) { SetAttribute(OrbUni::_affects, affects); }
-void OrbStyleBy::removeAffects() { removeAttribute(*this, OrbUni::_affects); }
+const XMLCh* OrbStyleBy::getAffects() const { return affects.get(*this); }
+void OrbStyleBy::setAffects(const XMLCh* value) { affects.set(*this, value); }
+void OrbStyleBy::removeAffects() { affects.remove(*this); }
 
-bool OrbStyleBy::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbStyleBy::removeMissing() { removeAttribute(*this, _UTF_missing); }
+bool OrbStyleBy::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbStyleBy::removeMissing() { missing.remove(*this); }

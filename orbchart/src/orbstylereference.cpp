@@ -10,12 +10,24 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
+namespace {
+
+constexpr Reference<OrbStyle> ref{OrbUni::_ref};
+
+using Attributes = AttributeList<ref>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbStyleReference>() {
+  return elementDescription<OrbStyleReference, Attributes>;
+}
+
 OrbStyleReference::OrbStyleReference(DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbStyleReference::OrbStyleReference(DOMElement* element, const OrbStyle& style) : OrbStyleReference(element) {
   setRef(style);
 }
 OrbStyleReference::~OrbStyleReference() = default;
 
-OrbStyle* OrbStyleReference::getRef() const { return readReference<OrbStyle>(*this, OrbUni::_ref); }
-void OrbStyleReference::setRef(const OrbStyle& style) { writeReference(*this, OrbUni::_ref, style); }
-void OrbStyleReference::removeRef() { removeAttribute(*this, OrbUni::_ref); }
+OrbStyle* OrbStyleReference::getRef() const { return ref.get(*this); }
+void OrbStyleReference::setRef(const OrbStyle& target) { ref.set(*this, target); }
+void OrbStyleReference::removeRef() { ref.remove(*this); }

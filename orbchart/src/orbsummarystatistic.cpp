@@ -11,79 +11,79 @@ using namespace orbchart;
 
 namespace {
 
-constexpr auto& methods =
-    numberedSummaries<OrbSummaryStatistic::method_mean, OrbSummaryStatistic::method_seSkewness>.table;
+constexpr Id id;
+constexpr Keywords method{
+    OrbUni::_method, OrbSummaryStatistic::method_unset,
+    numberedSummaries<OrbSummaryStatistic::method_mean, OrbSummaryStatistic::method_seSkewness>.table};
+constexpr Double percent{OrbUni::_percent};
+constexpr Keywords summaryBase{OrbSummaryStatistic::_UTF_summaryBase,
+                               OrbSummaryStatistic::summaryBase_unset,
+                               {
+                                   {OrbSummaryStatistic::summaryBase_global, OrbSummaryStatistic::VSS_global},
+                                   {OrbSummaryStatistic::summaryBase_aesthetic, OrbUni::_aesthetic},
+                                   {OrbSummaryStatistic::summaryBase_coordinate, OrbSummaryStatistic::VSS_coordinate},
+                               }};
+constexpr Unsigned summaryIndex{OrbSummaryStatistic::_UTF_summaryIndex};
+constexpr Boolean summaryAcrossPanels{OrbSummaryStatistic::_UTF_summaryAcrossPanels};
+constexpr Keywords augment{OrbSummaryStatistic::_UTF_augment,
+                           OrbSummaryStatistic::augment_unset,
+                           {
+                               {OrbSummaryStatistic::augment_zero, OrbSummaryStatistic::VSS_zero},
+                               {OrbSummaryStatistic::augment_missing, OrbSummaryStatistic::VSS_missing},
+                               {OrbSummaryStatistic::augment_none, OrbUni::_none},
+                           }};
+constexpr Double multiple{OrbSummaryStatistic::_UTF_multiple};
+constexpr Boolean convertIntervalToSingleValue{OrbUni::_convertIntervalToSingleValue};
 
-constexpr Keyword<OrbSummaryStatistic::ENUM_summaryBase> summaryBases[] = {
-    {OrbSummaryStatistic::summaryBase_global, OrbSummaryStatistic::VSS_global},
-    {OrbSummaryStatistic::summaryBase_aesthetic, OrbUni::_aesthetic},
-    {OrbSummaryStatistic::summaryBase_coordinate, OrbSummaryStatistic::VSS_coordinate},
-};
-
-constexpr Keyword<OrbSummaryStatistic::ENUM_augment> augments[] = {
-    {OrbSummaryStatistic::augment_zero, OrbSummaryStatistic::VSS_zero},
-    {OrbSummaryStatistic::augment_missing, OrbSummaryStatistic::VSS_missing},
-    {OrbSummaryStatistic::augment_none, OrbUni::_none},
-};
+using Attributes = AttributeList<id, method, percent, summaryBase, summaryIndex, summaryAcrossPanels, augment, multiple,
+                                 convertIntervalToSingleValue>;
 
 } // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbSummaryStatistic>() {
+  return elementDescription<OrbSummaryStatistic, Attributes>;
+}
 
 OrbSummaryStatistic::OrbSummaryStatistic(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbSummaryStatistic::~OrbSummaryStatistic() = default;
 
-const XMLCh* OrbSummaryStatistic::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbSummaryStatistic::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbSummaryStatistic::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbSummaryStatistic::getId() const { return id.get(*this); }
+void OrbSummaryStatistic::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbSummaryStatistic::removeId() { id.remove(*this); }
 
-OrbSummaryStatistic::ENUM_method OrbSummaryStatistic::getMethod() const {
-  return readKeyword(*this, OrbUni::_method, methods, method_unset);
-}
-void OrbSummaryStatistic::setMethod(ENUM_method method) { writeKeyword(*this, OrbUni::_method, methods, method); }
-void OrbSummaryStatistic::removeMethod() { removeAttribute(*this, OrbUni::_method); }
+OrbSummaryStatistic::ENUM_method OrbSummaryStatistic::getMethod() const { return method.get(*this); }
+void OrbSummaryStatistic::setMethod(ENUM_method value) { method.set(*this, value); }
+void OrbSummaryStatistic::removeMethod() { method.remove(*this); }
 
-double OrbSummaryStatistic::getPercent() const { return readDouble(*this, OrbUni::_percent); }
-void OrbSummaryStatistic::setPercent(double percent) { writeDouble(*this, OrbUni::_percent, percent); }
-void OrbSummaryStatistic::removePercent() { removeAttribute(*this, OrbUni::_percent); }
+double OrbSummaryStatistic::getPercent() const { return percent.get(*this); }
+void OrbSummaryStatistic::setPercent(double value) { percent.set(*this, value); }
+void OrbSummaryStatistic::removePercent() { percent.remove(*this); }
 
-OrbSummaryStatistic::ENUM_summaryBase OrbSummaryStatistic::getSummaryBase() const {
-  return readKeyword(*this, _UTF_summaryBase, summaryBases, summaryBase_unset);
-}
-void OrbSummaryStatistic::setSummaryBase(ENUM_summaryBase summaryBase) {
-  writeKeyword(*this, _UTF_summaryBase, summaryBases, summaryBase);
-}
-void OrbSummaryStatistic::removeSummaryBase() { removeAttribute(*this, _UTF_summaryBase); }
+OrbSummaryStatistic::ENUM_summaryBase OrbSummaryStatistic::getSummaryBase() const { return summaryBase.get(*this); }
+void OrbSummaryStatistic::setSummaryBase(ENUM_summaryBase value) { summaryBase.set(*this, value); }
+void OrbSummaryStatistic::removeSummaryBase() { summaryBase.remove(*this); }
 
-unsigned int OrbSummaryStatistic::getSummaryIndex() const { return readUnsigned(*this, _UTF_summaryIndex); }
-void OrbSummaryStatistic::setSummaryIndex(unsigned int summaryIndex) {
-  writeUnsigned(*this, _UTF_summaryIndex, summaryIndex);
-}
-bool OrbSummaryStatistic::isSummaryIndexPresent() const { return isPresent(*this, _UTF_summaryIndex); }
-void OrbSummaryStatistic::removeSummaryIndex() { removeAttribute(*this, _UTF_summaryIndex); }
+unsigned int OrbSummaryStatistic::getSummaryIndex() const { return summaryIndex.get(*this); }
+void OrbSummaryStatistic::setSummaryIndex(unsigned int value) { summaryIndex.set(*this, value); }
+bool OrbSummaryStatistic::isSummaryIndexPresent() const { return summaryIndex.isPresent(*this); }
+void OrbSummaryStatistic::removeSummaryIndex() { summaryIndex.remove(*this); }
 
-bool OrbSummaryStatistic::getSummaryAcrossPanels() const { return readBoolean(*this, _UTF_summaryAcrossPanels); }
-void OrbSummaryStatistic::setSummaryAcrossPanels(bool summaryAcrossPanels) {
-  writeBoolean(*this, _UTF_summaryAcrossPanels, summaryAcrossPanels);
-}
-void OrbSummaryStatistic::removeSummaryAcrossPanels() { removeAttribute(*this, _UTF_summaryAcrossPanels); }
+bool OrbSummaryStatistic::getSummaryAcrossPanels() const { return summaryAcrossPanels.get(*this); }
+void OrbSummaryStatistic::setSummaryAcrossPanels(bool value) { summaryAcrossPanels.set(*this, value); }
+void OrbSummaryStatistic::removeSummaryAcrossPanels() { summaryAcrossPanels.remove(*this); }
 
-OrbSummaryStatistic::ENUM_augment OrbSummaryStatistic::getAugment() const {
-  return readKeyword(*this, _UTF_augment, augments, augment_unset);
-}
-void OrbSummaryStatistic::setAugment(ENUM_augment augment) { writeKeyword(*this, _UTF_augment, augments, augment); }
-bool OrbSummaryStatistic::isAugmentPresent() const { return isPresent(*this, _UTF_augment); }
-void OrbSummaryStatistic::removeAugment() { removeAttribute(*this, _UTF_augment); }
+OrbSummaryStatistic::ENUM_augment OrbSummaryStatistic::getAugment() const { return augment.get(*this); }
+void OrbSummaryStatistic::setAugment(ENUM_augment value) { augment.set(*this, value); }
+bool OrbSummaryStatistic::isAugmentPresent() const { return augment.isPresent(*this); }
+void OrbSummaryStatistic::removeAugment() { augment.remove(*this); }
 
-double OrbSummaryStatistic::getMultiple() const { return readDouble(*this, _UTF_multiple); }
-void OrbSummaryStatistic::setMultiple(double multiple) { writeDouble(*this, _UTF_multiple, multiple); }
-bool OrbSummaryStatistic::isMultiplePresent() const { return isPresent(*this, _UTF_multiple); }
-void OrbSummaryStatistic::removeMultiple() { removeAttribute(*this, _UTF_multiple); }
+double OrbSummaryStatistic::getMultiple() const { return multiple.get(*this); }
+void OrbSummaryStatistic::setMultiple(double value) { multiple.set(*this, value); }
+bool OrbSummaryStatistic::isMultiplePresent() const { return multiple.isPresent(*this); }
+void OrbSummaryStatistic::removeMultiple() { multiple.remove(*this); }
 
-bool OrbSummaryStatistic::getConvertIntervalToSingleValue() const {
-  return readBoolean(*this, OrbUni::_convertIntervalToSingleValue);
+bool OrbSummaryStatistic::getConvertIntervalToSingleValue() const { return convertIntervalToSingleValue.get(*this); }
+void OrbSummaryStatistic::setConvertIntervalToSingleValue(bool value) {
+  convertIntervalToSingleValue.set(*this, value);
 }
-void OrbSummaryStatistic::setConvertIntervalToSingleValue(bool convertIntervalToSingleValue) {
-  writeBoolean(*this, OrbUni::_convertIntervalToSingleValue, convertIntervalToSingleValue);
-}
-void OrbSummaryStatistic::removeConvertIntervalToSingleValue() {
-  removeAttribute(*this, OrbUni::_convertIntervalToSingleValue);
-}
+void OrbSummaryStatistic::removeConvertIntervalToSingleValue() { convertIntervalToSingleValue.remove(*this); }

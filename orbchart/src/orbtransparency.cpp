@@ -10,34 +10,45 @@ using namespace orbchart;
 
 namespace {
 
-constexpr Keyword<OrbTransparency::ENUM_affect> affects[] = {
-    {OrbTransparency::affect_both, OrbUni::_both},           {OrbTransparency::affect_main, OrbUni::_main},
-    {OrbTransparency::affect_secondary, OrbUni::_secondary}, {OrbTransparency::affect_stroke, OrbUni::_stroke},
-    {OrbTransparency::affect_fill, OrbUni::_fill},
-};
+constexpr Keywords affect{OrbUni::_affect,
+                          AbsentReadsAs(OrbTransparency::affect_both),
+                          {
+                              {OrbTransparency::affect_both, OrbUni::_both},
+                              {OrbTransparency::affect_main, OrbUni::_main},
+                              {OrbTransparency::affect_secondary, OrbUni::_secondary},
+                              {OrbTransparency::affect_stroke, OrbUni::_stroke},
+                              {OrbTransparency::affect_fill, OrbUni::_fill},
+                          }};
+constexpr Double low{OrbUni::_low};
+constexpr Double high{OrbUni::_high};
+constexpr Double missing{OrbTransparency::_UTF_missing};
+
+using Attributes = AttributeList<affect, low, high, missing>;
 
 } // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbTransparency>() {
+  return elementDescription<OrbTransparency, DerivedFrom<CTAesthetic>, Attributes>;
+}
 
 OrbTransparency::OrbTransparency(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
 OrbTransparency::~OrbTransparency() = default;
 
-OrbTransparency::ENUM_affect OrbTransparency::getAffect() const {
-  return readKeyword(*this, OrbUni::_affect, affects, affect_both);
-}
-void OrbTransparency::setAffect(ENUM_affect affect) { writeKeyword(*this, OrbUni::_affect, affects, affect); }
-void OrbTransparency::removeAffect() { removeAttribute(*this, OrbUni::_affect); }
+OrbTransparency::ENUM_affect OrbTransparency::getAffect() const { return affect.get(*this); }
+void OrbTransparency::setAffect(ENUM_affect value) { affect.set(*this, value); }
+void OrbTransparency::removeAffect() { affect.remove(*this); }
 
-double OrbTransparency::getLow() const { return readDouble(*this, OrbUni::_low); }
-void OrbTransparency::setLow(double low) { writeDouble(*this, OrbUni::_low, low); }
-bool OrbTransparency::isLowPresent() const { return isPresent(*this, OrbUni::_low); }
-void OrbTransparency::removeLow() { removeAttribute(*this, OrbUni::_low); }
+double OrbTransparency::getLow() const { return low.get(*this); }
+void OrbTransparency::setLow(double value) { low.set(*this, value); }
+bool OrbTransparency::isLowPresent() const { return low.isPresent(*this); }
+void OrbTransparency::removeLow() { low.remove(*this); }
 
-double OrbTransparency::getHigh() const { return readDouble(*this, OrbUni::_high); }
-void OrbTransparency::setHigh(double high) { writeDouble(*this, OrbUni::_high, high); }
-bool OrbTransparency::isHighPresent() const { return isPresent(*this, OrbUni::_high); }
-void OrbTransparency::removeHigh() { removeAttribute(*this, OrbUni::_high); }
+double OrbTransparency::getHigh() const { return high.get(*this); }
+void OrbTransparency::setHigh(double value) { high.set(*this, value); }
+bool OrbTransparency::isHighPresent() const { return high.isPresent(*this); }
+void OrbTransparency::removeHigh() { high.remove(*this); }
 
-double OrbTransparency::getMissing() const { return readDouble(*this, _UTF_missing); }
-void OrbTransparency::setMissing(double missing) { writeDouble(*this, _UTF_missing, missing); }
-bool OrbTransparency::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbTransparency::removeMissing() { removeAttribute(*this, _UTF_missing); }
+double OrbTransparency::getMissing() const { return missing.get(*this); }
+void OrbTransparency::setMissing(double value) { missing.set(*this, value); }
+bool OrbTransparency::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbTransparency::removeMissing() { missing.remove(*this); }

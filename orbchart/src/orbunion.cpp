@@ -8,7 +8,21 @@
 
 using namespace orbchart;
 
-struct OrbUnion::Children : ChildFamilies<FamilyList<OrbIntersect>> {};
+namespace {
+
+constexpr Id id;
+
+using Attributes = AttributeList<id>;
+
+using Families = ChildFamilies<FamilyList<OrbIntersect>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbUnion>() {
+  return elementDescription<OrbUnion, Attributes, Families>;
+}
+
+struct OrbUnion::Children : Families {};
 
 OrbUnion::OrbUnion(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -16,10 +30,10 @@ OrbUnion::OrbUnion(xercesc::DOMElement* element) : OrbBaseElement(element), chil
 }
 OrbUnion::~OrbUnion() = default;
 
-const XMLCh* OrbUnion::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbUnion::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbUnion::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbUnion::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbUnion::getId() const { return id.get(*this); }
+void OrbUnion::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbUnion::isIdPresent() const { return id.isPresent(*this); }
+void OrbUnion::removeId() { id.remove(*this); }
 
 OrbIntersect* OrbUnion::addIntersect() { return children_->add<OrbIntersect>(*this, atEnd); }
 std::vector<OrbIntersect*> OrbUnion::getIntersects() const { return children_->all<OrbIntersect>(); }

@@ -7,9 +7,21 @@
 
 using namespace orbchart;
 
+namespace {
+
+constexpr Id id;
+
+using Attributes = AttributeList<id>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbUnity>() {
+  return elementDescription<OrbUnity, Attributes>;
+}
+
 OrbUnity::OrbUnity(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbUnity::~OrbUnity() = default;
 
-const XMLCh* OrbUnity::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbUnity::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbUnity::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbUnity::getId() const { return id.get(*this); }
+void OrbUnity::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbUnity::removeId() { id.remove(*this); }

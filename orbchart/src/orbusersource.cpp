@@ -8,7 +8,23 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbUserSource::Children : ChildFamilies<SourceFamilies> {};
+namespace {
+
+constexpr Id id;
+constexpr auto& missing = missingOf<OrbUserSource>;
+constexpr Boolean filterToMissing{OrbUserSource::_UTF_filterToMissing};
+
+using Attributes = AttributeList<id, missing, filterToMissing>;
+
+using Families = SourceFamilies;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbUserSource>() {
+  return elementDescription<OrbUserSource, Attributes, Families>;
+}
+
+struct OrbUserSource::Children : Families {};
 
 OrbUserSource::OrbUserSource(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -20,25 +36,19 @@ OrbUserSource::OrbUserSource(DOMElement* element, const XMLCh* id) : OrbBaseElem
 }
 OrbUserSource::~OrbUserSource() = default;
 
-const XMLCh* OrbUserSource::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbUserSource::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbUserSource::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbUserSource::getId() const { return id.get(*this); }
+void OrbUserSource::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbUserSource::removeId() { id.remove(*this); }
 
-OrbUserSource::ENUM_missing OrbUserSource::getMissing() const {
-  return readKeyword(*this, _UTF_missing, missingKeywords<OrbUserSource>, missing_unset);
-}
-void OrbUserSource::setMissing(ENUM_missing missing) {
-  writeKeyword(*this, _UTF_missing, missingKeywords<OrbUserSource>, missing);
-}
-bool OrbUserSource::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbUserSource::removeMissing() { removeAttribute(*this, _UTF_missing); }
+OrbUserSource::ENUM_missing OrbUserSource::getMissing() const { return missing.get(*this); }
+void OrbUserSource::setMissing(ENUM_missing value) { missing.set(*this, value); }
+bool OrbUserSource::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbUserSource::removeMissing() { missing.remove(*this); }
 
-bool OrbUserSource::getFilterToMissing() const { return readBoolean(*this, _UTF_filterToMissing); }
-void OrbUserSource::setFilterToMissing(bool filterToMissing) {
-  writeBoolean(*this, _UTF_filterToMissing, filterToMissing);
-}
-bool OrbUserSource::isFilterToMissingPresent() const { return isPresent(*this, _UTF_filterToMissing); }
-void OrbUserSource::removeFilterToMissing() { removeAttribute(*this, _UTF_filterToMissing); }
+bool OrbUserSource::getFilterToMissing() const { return filterToMissing.get(*this); }
+void OrbUserSource::setFilterToMissing(bool value) { filterToMissing.set(*this, value); }
+bool OrbUserSource::isFilterToMissingPresent() const { return filterToMissing.isPresent(*this); }
+void OrbUserSource::removeFilterToMissing() { filterToMissing.remove(*this); }
 
 OrbAggregate* OrbUserSource::addAggregate() { return children_->add<OrbAggregate>(*this, AfterSourceAggregates{}); }
 OrbAggregate* OrbUserSource::getAggregate() const { return children_->first<OrbAggregate>(); }

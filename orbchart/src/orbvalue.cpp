@@ -1,10 +1,15 @@
 // One value of a group of described values.
 #include "orbvalue.h"
 
+#include "attribute.h"
 #include "elementtext.h"
 #include "loading.h"
 
 using namespace orbchart;
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbValue>() {
+  return elementDescription<OrbValue, BearsText>;
+}
 
 OrbValue::OrbValue(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbValue::~OrbValue() = default;

@@ -6,7 +6,17 @@
 
 using namespace orbchart;
 
-struct OrbValueDescription::Children : ChildFamilies<FamilyList<OrbValue>> {};
+namespace {
+
+using Families = ChildFamilies<FamilyList<OrbValue>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbValueDescription>() {
+  return elementDescription<OrbValueDescription, Families>;
+}
+
+struct OrbValueDescription::Children : Families {};
 
 OrbValueDescription::OrbValueDescription(xercesc::DOMElement* element) :
     OrbBaseElement(element), children_(new Children) {

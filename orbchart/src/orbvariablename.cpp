@@ -7,7 +7,17 @@
 
 using namespace orbchart;
 
-struct OrbVariableName::Children : ChildFamilies<FamilyList<OrbName, OrbScope>> {};
+namespace {
+
+using Families = ChildFamilies<FamilyList<OrbName, OrbScope>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbVariableName>() {
+  return elementDescription<OrbVariableName, Families>;
+}
+
+struct OrbVariableName::Children : Families {};
 
 OrbVariableName::OrbVariableName(xercesc::DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);

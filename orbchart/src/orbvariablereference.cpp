@@ -9,7 +9,21 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbVariableReference::Children : ChildFamilies<FamilyList<OrbElementVariableReference>> {};
+namespace {
+
+constexpr VariableReference ref{OrbUni::_ref};
+
+using Attributes = AttributeList<ref>;
+
+using Families = ChildFamilies<FamilyList<OrbElementVariableReference>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbVariableReference>() {
+  return elementDescription<OrbVariableReference, Attributes, Families>;
+}
+
+struct OrbVariableReference::Children : Families {};
 
 OrbVariableReference::OrbVariableReference(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
   children_->load(*this);
@@ -21,8 +35,8 @@ OrbVariableReference::OrbVariableReference(DOMElement* element, const CTVariable
 }
 OrbVariableReference::~OrbVariableReference() = default;
 
-CTVariableType* OrbVariableReference::getRef() const { return readVariable(*this, OrbUni::_ref); }
-void OrbVariableReference::setRef(const CTVariableType& variable) { writeReference(*this, OrbUni::_ref, variable); }
+CTVariableType* OrbVariableReference::getRef() const { return ref.get(*this); }
+void OrbVariableReference::setRef(const CTVariableType& target) { ref.set(*this, target); }
 
 OrbElementVariableReference* OrbVariableReference::addElementVariableReference() {
   return children_->add<OrbElementVariableReference>(*this, atEnd);

@@ -8,7 +8,23 @@
 using namespace orbchart;
 using xercesc::DOMElement;
 
-struct OrbVisibility::Children : ChildFamilies<FamilyList<>> {};
+namespace {
+
+constexpr Boolean low{OrbUni::_low};
+constexpr Boolean high{OrbUni::_high};
+constexpr Boolean missing{OrbVisibility::_UTF_missing};
+
+using Attributes = AttributeList<low, high, missing>;
+
+using Families = ChildFamilies<FamilyList<>>;
+
+} // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbVisibility>() {
+  return elementDescription<OrbVisibility, DerivedWithoutChildrenFrom<CTAesthetic>, Attributes, Families>;
+}
+
+struct OrbVisibility::Children : Families {};
 
 OrbVisibility::OrbVisibility(DOMElement* element) : CTAesthetic(element, WithoutChildren()), children_(new Children) {
   children_->load(*this);
@@ -16,17 +32,17 @@ OrbVisibility::OrbVisibility(DOMElement* element) : CTAesthetic(element, Without
 }
 OrbVisibility::~OrbVisibility() = default;
 
-bool OrbVisibility::getLow() const { return readBoolean(*this, OrbUni::_low); }
-void OrbVisibility::setLow(bool low) { writeBoolean(*this, OrbUni::_low, low); }
-bool OrbVisibility::isLowPresent() const { return isPresent(*this, OrbUni::_low); }
-void OrbVisibility::removeLow() { removeAttribute(*this, OrbUni::_low); }
+bool OrbVisibility::getLow() const { return low.get(*this); }
+void OrbVisibility::setLow(bool value) { low.set(*this, value); }
+bool OrbVisibility::isLowPresent() const { return low.isPresent(*this); }
+void OrbVisibility::removeLow() { low.remove(*this); }
 
-bool OrbVisibility::getHigh() const { return readBoolean(*this, OrbUni::_high); }
-void OrbVisibility::setHigh(bool high) { writeBoolean(*this, OrbUni::_high, high); }
-bool OrbVisibility::isHighPresent() const { return isPresent(*this, OrbUni::_high); }
-void OrbVisibility::removeHigh() { removeAttribute(*this, OrbUni::_high); }
+bool OrbVisibility::getHigh() const { return high.get(*this); }
+void OrbVisibility::setHigh(bool value) { high.set(*this, value); }
+bool OrbVisibility::isHighPresent() const { return high.isPresent(*this); }
+void OrbVisibility::removeHigh() { high.remove(*this); }
 
-bool OrbVisibility::getMissing() const { return readBoolean(*this, _UTF_missing); }
-void OrbVisibility::setMissing(bool missing) { writeBoolean(*this, _UTF_missing, missing); }
-bool OrbVisibility::isMissingPresent() const { return isPresent(*this, _UTF_missing); }
-void OrbVisibility::removeMissing() { removeAttribute(*this, _UTF_missing); }
+bool OrbVisibility::getMissing() const { return missing.get(*this); }
+void OrbVisibility::setMissing(bool value) { missing.set(*this, value); }
+bool OrbVisibility::isMissingPresent() const { return missing.isPresent(*this); }
+void OrbVisibility::removeMissing() { missing.remove(*this); }

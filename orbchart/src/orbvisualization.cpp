@@ -30,17 +30,32 @@ using xercesc::DOMElement;
 
 namespace {
 
+constexpr Id id;
+constexpr Double version{OrbUni::_version};
+constexpr Text lang{OrbUni::_lang};
+constexpr Text name{OrbUni::_name};
+constexpr Text author{OrbUni::_author};
+constexpr Text description{OrbUni::_description};
+constexpr Text creator{OrbUni::_creator};
+constexpr Text date{OrbUni::_date};
+constexpr Text type{OrbUni::_type};
+constexpr Boolean clip{OrbUni::_clip};
+constexpr Reference<OrbStyle> style{OrbUni::_style};
+
+using Attributes = AttributeList<id, version, lang, name, author, description, creator, date, type, clip, style>;
+
 // The families by band, in document order; a band of the language without a class here is empty and keeps its place. A
 // new family goes into its band, and with it into the record, the loader and the followers of the bands before it.
 using Locations = FamilyList<>;
 using Extensions = FamilyList<>;
-using Sources =
-    FamilyList<OrbDatabaseSource, OrbDelimitedFileSource, OrbEmbeddedSource, OrbStreamingSource, OrbUserSource>;
+using Sources = FamilyList<StripsIds<OrbDatabaseSource>, StripsIds<OrbDelimitedFileSource>,
+                           StripsIds<OrbEmbeddedSource>, StripsIds<OrbStreamingSource>, StripsIds<OrbUserSource>>;
 using Variables =
-    FamilyList<OrbSourceVariable, OrbDerivedVariable, OrbExpressionVariable, OrbMultipleResponseVariable,
-               OrbCategoricalDomain, OrbCategoricalDomainModifier, OrbIntervalDomainModifier, OrbIntervalDomain>;
-using Frames = FamilyList<OrbGraph>;
-using Styles = FamilyList<OrbStyle>;
+    FamilyList<StripsIds<OrbSourceVariable>, StripsIds<OrbDerivedVariable>, StripsIds<OrbExpressionVariable>,
+               OrbMultipleResponseVariable, StripsIds<OrbCategoricalDomain>, OrbCategoricalDomainModifier,
+               OrbIntervalDomainModifier, StripsIds<OrbIntervalDomain>>;
+using Frames = FamilyList<StripsIds<OrbGraph>>;
+using Styles = FamilyList<StripsIds<OrbStyle>>;
 using Popups = FamilyList<>;
 using DrillDowns = FamilyList<>;
 using Controllers = FamilyList<>;
@@ -55,10 +70,16 @@ using AfterSources = Joined<Variables, AfterVariables>;
 using AfterExtensions = Joined<Sources, Variables, Frames, Styles, Popups>;
 using AfterLocations = Joined<Extensions, AfterExtensions>;
 
+using Families = ChildFamilies<
+    Joined<Locations, Extensions, Sources, Variables, Frames, Styles, Popups, DrillDowns, Controllers, Unplaced>>;
+
 } // namespace
 
-struct OrbVisualization::Children : ChildFamilies<Joined<Locations, Extensions, Sources, Variables, Frames, Styles,
-                                                         Popups, DrillDowns, Controllers, Unplaced>> {};
+template <> const ElementDescription& orbchart::descriptionOf<OrbVisualization>() {
+  return elementDescription<OrbVisualization, Attributes, Families>;
+}
+
+struct OrbVisualization::Children : Families {};
 
 OrbVisualization::OrbVisualization(DOMElement* element) : OrbBaseElement(element), children_(new Children) { init(); }
 OrbVisualization::OrbVisualization(DOMElement* element, double version, const XMLCh* id) : OrbVisualization(element) {
@@ -81,48 +102,48 @@ void OrbVisualization::init() {
 }
 void OrbVisualization::initWithChildren(xercesc::DOMNode* node) { children_->loadOne(*this, node); }
 
-const XMLCh* OrbVisualization::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbVisualization::setId(const XMLCh* id) { writeId(*this, id); }
-void OrbVisualization::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbVisualization::getId() const { return id.get(*this); }
+void OrbVisualization::setId(const XMLCh* value) { id.set(*this, value); }
+void OrbVisualization::removeId() { id.remove(*this); }
 
-double OrbVisualization::getVersion() const { return readDouble(*this, OrbUni::_version); }
-void OrbVisualization::setVersion(double version) { writeDouble(*this, OrbUni::_version, version); }
+double OrbVisualization::getVersion() const { return version.get(*this); }
+void OrbVisualization::setVersion(double value) { version.set(*this, value); }
 
-const XMLCh* OrbVisualization::getLang() const { return GetAttribute(OrbUni::_lang); }
-void OrbVisualization::setLang(const XMLCh* lang) { SetAttribute(OrbUni::_lang, lang); }
-void OrbVisualization::removeLang() { removeAttribute(*this, OrbUni::_lang); }
+const XMLCh* OrbVisualization::getLang() const { return lang.get(*this); }
+void OrbVisualization::setLang(const XMLCh* value) { lang.set(*this, value); }
+void OrbVisualization::removeLang() { lang.remove(*this); }
 
-const XMLCh* OrbVisualization::getName() const { return GetAttribute(OrbUni::_name); }
-void OrbVisualization::setName(const XMLCh* name) { SetAttribute(OrbUni::_name, name); }
-void OrbVisualization::removeName() { removeAttribute(*this, OrbUni::_name); }
+const XMLCh* OrbVisualization::getName() const { return name.get(*this); }
+void OrbVisualization::setName(const XMLCh* value) { name.set(*this, value); }
+void OrbVisualization::removeName() { name.remove(*this); }
 
-const XMLCh* OrbVisualization::getAuthor() const { return GetAttribute(OrbUni::_author); }
-void OrbVisualization::setAuthor(const XMLCh* author) { SetAttribute(OrbUni::_author, author); }
-void OrbVisualization::removeAuthor() { removeAttribute(*this, OrbUni::_author); }
+const XMLCh* OrbVisualization::getAuthor() const { return author.get(*this); }
+void OrbVisualization::setAuthor(const XMLCh* value) { author.set(*this, value); }
+void OrbVisualization::removeAuthor() { author.remove(*this); }
 
-const XMLCh* OrbVisualization::getDescription() const { return GetAttribute(OrbUni::_description); }
-void OrbVisualization::setDescription(const XMLCh* description) { SetAttribute(OrbUni::_description, description); }
-void OrbVisualization::removeDescription() { removeAttribute(*this, OrbUni::_description); }
+const XMLCh* OrbVisualization::getDescription() const { return description.get(*this); }
+void OrbVisualization::setDescription(const XMLCh* value) { description.set(*this, value); }
+void OrbVisualization::removeDescription() { description.remove(*this); }
 
-const XMLCh* OrbVisualization::getCreator() const { return GetAttribute(OrbUni::_creator); }
-void OrbVisualization::setCreator(const XMLCh* creator) { SetAttribute(OrbUni::_creator, creator); }
-void OrbVisualization::removeCreator() { removeAttribute(*this, OrbUni::_creator); }
+const XMLCh* OrbVisualization::getCreator() const { return creator.get(*this); }
+void OrbVisualization::setCreator(const XMLCh* value) { creator.set(*this, value); }
+void OrbVisualization::removeCreator() { creator.remove(*this); }
 
-const XMLCh* OrbVisualization::getDate() const { return GetAttribute(OrbUni::_date); }
-void OrbVisualization::setDate(const XMLCh* date) { SetAttribute(OrbUni::_date, date); }
-void OrbVisualization::removeDate() { removeAttribute(*this, OrbUni::_date); }
+const XMLCh* OrbVisualization::getDate() const { return date.get(*this); }
+void OrbVisualization::setDate(const XMLCh* value) { date.set(*this, value); }
+void OrbVisualization::removeDate() { date.remove(*this); }
 
-const XMLCh* OrbVisualization::getType() const { return GetAttribute(OrbUni::_type); }
-void OrbVisualization::setType(const XMLCh* type) { SetAttribute(OrbUni::_type, type); }
-void OrbVisualization::removeType() { removeAttribute(*this, OrbUni::_type); }
+const XMLCh* OrbVisualization::getType() const { return type.get(*this); }
+void OrbVisualization::setType(const XMLCh* value) { type.set(*this, value); }
+void OrbVisualization::removeType() { type.remove(*this); }
 
-bool OrbVisualization::getClip() const { return readBoolean(*this, OrbUni::_clip); }
-void OrbVisualization::setClip(bool clip) { writeBoolean(*this, OrbUni::_clip, clip); }
-void OrbVisualization::removeClip() { removeAttribute(*this, OrbUni::_clip); }
+bool OrbVisualization::getClip() const { return clip.get(*this); }
+void OrbVisualization::setClip(bool value) { clip.set(*this, value); }
+void OrbVisualization::removeClip() { clip.remove(*this); }
 
-OrbStyle* OrbVisualization::getStyle() const { return readReference<OrbStyle>(*this, OrbUni::_style); }
-void OrbVisualization::setStyle(const OrbStyle& style) { writeReference(*this, OrbUni::_style, style); }
-void OrbVisualization::removeStyle() { removeAttribute(*this, OrbUni::_style); }
+OrbStyle* OrbVisualization::getStyle() const { return style.get(*this); }
+void OrbVisualization::setStyle(const OrbStyle& target) { style.set(*this, target); }
+void OrbVisualization::removeStyle() { style.remove(*this); }
 
 OrbDatabaseSource* OrbVisualization::addDatabaseSource(const XMLCh* id) {
   return children_->add<OrbDatabaseSource>(*this, AfterSources{}, id);
@@ -130,9 +151,7 @@ OrbDatabaseSource* OrbVisualization::addDatabaseSource(const XMLCh* id) {
 std::vector<OrbDatabaseSource*> OrbVisualization::getDatabaseSources() const {
   return children_->all<OrbDatabaseSource>();
 }
-unsigned int OrbVisualization::removeDatabaseSources() {
-  return children_->removeAll<OrbDatabaseSource>(*this, Ids::strip);
-}
+unsigned int OrbVisualization::removeDatabaseSources() { return children_->removeAll<OrbDatabaseSource>(*this); }
 
 OrbDelimitedFileSource* OrbVisualization::addDelimitedFileSource(const XMLCh* id) {
   return children_->add<OrbDelimitedFileSource>(*this, AfterSources{}, id);
@@ -141,7 +160,7 @@ std::vector<OrbDelimitedFileSource*> OrbVisualization::getDelimitedFileSources()
   return children_->all<OrbDelimitedFileSource>();
 }
 unsigned int OrbVisualization::removeDelimitedFileSources() {
-  return children_->removeAll<OrbDelimitedFileSource>(*this, Ids::strip);
+  return children_->removeAll<OrbDelimitedFileSource>(*this);
 }
 
 OrbEmbeddedSource* OrbVisualization::addEmbeddedSource(const XMLCh* id) {
@@ -150,9 +169,7 @@ OrbEmbeddedSource* OrbVisualization::addEmbeddedSource(const XMLCh* id) {
 std::vector<OrbEmbeddedSource*> OrbVisualization::getEmbeddedSources() const {
   return children_->all<OrbEmbeddedSource>();
 }
-unsigned int OrbVisualization::removeEmbeddedSources() {
-  return children_->removeAll<OrbEmbeddedSource>(*this, Ids::strip);
-}
+unsigned int OrbVisualization::removeEmbeddedSources() { return children_->removeAll<OrbEmbeddedSource>(*this); }
 
 OrbStreamingSource* OrbVisualization::addStreamingSource(const XMLCh* id, const XMLCh* url) {
   return children_->add<OrbStreamingSource>(*this, AfterSources{}, id, url);
@@ -160,15 +177,13 @@ OrbStreamingSource* OrbVisualization::addStreamingSource(const XMLCh* id, const 
 std::vector<OrbStreamingSource*> OrbVisualization::getStreamingSources() const {
   return children_->all<OrbStreamingSource>();
 }
-unsigned int OrbVisualization::removeStreamingSources() {
-  return children_->removeAll<OrbStreamingSource>(*this, Ids::strip);
-}
+unsigned int OrbVisualization::removeStreamingSources() { return children_->removeAll<OrbStreamingSource>(*this); }
 
 OrbUserSource* OrbVisualization::addUserSource(const XMLCh* id) {
   return children_->add<OrbUserSource>(*this, AfterSources{}, id);
 }
 std::vector<OrbUserSource*> OrbVisualization::getUserSources() const { return children_->all<OrbUserSource>(); }
-unsigned int OrbVisualization::removeUserSources() { return children_->removeAll<OrbUserSource>(*this, Ids::strip); }
+unsigned int OrbVisualization::removeUserSources() { return children_->removeAll<OrbUserSource>(*this); }
 
 OrbSavFileSource* OrbVisualization::addSavFileSource() { return children_->add<OrbSavFileSource>(*this, atEnd); }
 std::vector<OrbSavFileSource*> OrbVisualization::getSavFileSources() const {
@@ -182,9 +197,7 @@ OrbSourceVariable* OrbVisualization::addSourceVariable(const XMLCh* id) {
 std::vector<OrbSourceVariable*> OrbVisualization::getSourceVariables() const {
   return children_->all<OrbSourceVariable>();
 }
-unsigned int OrbVisualization::removeSourceVariables() {
-  return children_->removeAll<OrbSourceVariable>(*this, Ids::strip);
-}
+unsigned int OrbVisualization::removeSourceVariables() { return children_->removeAll<OrbSourceVariable>(*this); }
 bool OrbVisualization::removeSourceVariable(OrbSourceVariable& variable) {
   return children_->removeOver<OrbSourceVariable>(*this, variable.getImplementation());
 }
@@ -195,9 +208,7 @@ OrbDerivedVariable* OrbVisualization::addDerivedVariable(const XMLCh* id) {
 std::vector<OrbDerivedVariable*> OrbVisualization::getDerivedVariables() const {
   return children_->all<OrbDerivedVariable>();
 }
-unsigned int OrbVisualization::removeDerivedVariables() {
-  return children_->removeAll<OrbDerivedVariable>(*this, Ids::strip);
-}
+unsigned int OrbVisualization::removeDerivedVariables() { return children_->removeAll<OrbDerivedVariable>(*this); }
 bool OrbVisualization::removeDerivedVariable(OrbDerivedVariable& variable) {
   return children_->removeOver<OrbDerivedVariable>(*this, variable.getImplementation());
 }
@@ -209,7 +220,7 @@ std::vector<OrbExpressionVariable*> OrbVisualization::getExpressionVariables() c
   return children_->all<OrbExpressionVariable>();
 }
 unsigned int OrbVisualization::removeExpressionVariables() {
-  return children_->removeAll<OrbExpressionVariable>(*this, Ids::strip);
+  return children_->removeAll<OrbExpressionVariable>(*this);
 }
 
 OrbMultipleResponseVariable* OrbVisualization::addMultipleResponseVariable() {
@@ -228,9 +239,7 @@ OrbCategoricalDomain* OrbVisualization::addCategoricalDomain(const XMLCh* id) {
 std::vector<OrbCategoricalDomain*> OrbVisualization::getCategoricalDomains() const {
   return children_->all<OrbCategoricalDomain>();
 }
-unsigned int OrbVisualization::removeCategoricalDomains() {
-  return children_->removeAll<OrbCategoricalDomain>(*this, Ids::strip);
-}
+unsigned int OrbVisualization::removeCategoricalDomains() { return children_->removeAll<OrbCategoricalDomain>(*this); }
 
 OrbCategoricalDomainModifier* OrbVisualization::addCategoricalDomainModifier() {
   return children_->add<OrbCategoricalDomainModifier>(*this, AfterVariables{});
@@ -258,14 +267,12 @@ OrbIntervalDomain* OrbVisualization::addIntervalDomain(const XMLCh* id) {
 std::vector<OrbIntervalDomain*> OrbVisualization::getIntervalDomains() const {
   return children_->all<OrbIntervalDomain>();
 }
-unsigned int OrbVisualization::removeIntervalDomains() {
-  return children_->removeAll<OrbIntervalDomain>(*this, Ids::strip);
-}
+unsigned int OrbVisualization::removeIntervalDomains() { return children_->removeAll<OrbIntervalDomain>(*this); }
 
 OrbGraph* OrbVisualization::addGraph(const XMLCh* id) { return children_->add<OrbGraph>(*this, AfterFrames{}, id); }
 std::vector<OrbGraph*> OrbVisualization::getGraphs() const { return children_->all<OrbGraph>(); }
-unsigned int OrbVisualization::removeGraphs() { return children_->removeAll<OrbGraph>(*this, Ids::strip); }
+unsigned int OrbVisualization::removeGraphs() { return children_->removeAll<OrbGraph>(*this); }
 
 OrbStyle* OrbVisualization::addStyle() { return children_->add<OrbStyle>(*this, AfterStyles{}); }
 std::vector<OrbStyle*> OrbVisualization::getStyles() const { return children_->all<OrbStyle>(); }
-unsigned int OrbVisualization::removeStyles() { return children_->removeAll<OrbStyle>(*this, Ids::strip); }
+unsigned int OrbVisualization::removeStyles() { return children_->removeAll<OrbStyle>(*this); }

@@ -11,29 +11,39 @@ using namespace orbchart;
 
 namespace {
 
-constexpr auto& summaries = numberedSummaries<OrbWhen::summary_mean, OrbWhen::summary_fractionTrue>.table;
+constexpr Id id;
+constexpr Keywords summary{OrbWhen::_UTF_summary, OrbWhen::summary_unset,
+                           numberedSummaries<OrbWhen::summary_mean, OrbWhen::summary_fractionTrue>.table};
+constexpr Double min{OrbUni::_min};
+constexpr Double max{OrbUni::_max};
+
+using Attributes = AttributeList<id, summary, min, max>;
 
 } // namespace
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbWhen>() {
+  return elementDescription<OrbWhen, Attributes>;
+}
 
 OrbWhen::OrbWhen(xercesc::DOMElement* element) : OrbBaseElement(element) { bindLeaf(*this); }
 OrbWhen::~OrbWhen() = default;
 
-const XMLCh* OrbWhen::getId() const { return GetAttribute(OrbUni::_id); }
-void OrbWhen::setId(const XMLCh* id) { writeId(*this, id); }
-bool OrbWhen::isIdPresent() const { return isPresent(*this, OrbUni::_id); }
-void OrbWhen::removeId() { removeAttribute(*this, OrbUni::_id); }
+const XMLCh* OrbWhen::getId() const { return id.get(*this); }
+void OrbWhen::setId(const XMLCh* value) { id.set(*this, value); }
+bool OrbWhen::isIdPresent() const { return id.isPresent(*this); }
+void OrbWhen::removeId() { id.remove(*this); }
 
-OrbWhen::ENUM_summary OrbWhen::getSummary() const { return readKeyword(*this, _UTF_summary, summaries, summary_unset); }
-void OrbWhen::setSummary(ENUM_summary summary) { writeKeyword(*this, _UTF_summary, summaries, summary); }
-bool OrbWhen::isSummaryPresent() const { return isPresent(*this, _UTF_summary); }
-void OrbWhen::removeSummary() { removeAttribute(*this, _UTF_summary); }
+OrbWhen::ENUM_summary OrbWhen::getSummary() const { return summary.get(*this); }
+void OrbWhen::setSummary(ENUM_summary value) { summary.set(*this, value); }
+bool OrbWhen::isSummaryPresent() const { return summary.isPresent(*this); }
+void OrbWhen::removeSummary() { summary.remove(*this); }
 
-double OrbWhen::getMin() const { return readDouble(*this, OrbUni::_min); }
-void OrbWhen::setMin(double min) { writeDouble(*this, OrbUni::_min, min); }
-bool OrbWhen::isMinPresent() const { return isPresent(*this, OrbUni::_min); }
-void OrbWhen::removeMin() { removeAttribute(*this, OrbUni::_min); }
+double OrbWhen::getMin() const { return min.get(*this); }
+void OrbWhen::setMin(double value) { min.set(*this, value); }
+bool OrbWhen::isMinPresent() const { return min.isPresent(*this); }
+void OrbWhen::removeMin() { min.remove(*this); }
 
-double OrbWhen::getMax() const { return readDouble(*this, OrbUni::_max); }
-void OrbWhen::setMax(double max) { writeDouble(*this, OrbUni::_max, max); }
-bool OrbWhen::isMaxPresent() const { return isPresent(*this, OrbUni::_max); }
-void OrbWhen::removeMax() { removeAttribute(*this, OrbUni::_max); }
+double OrbWhen::getMax() const { return max.get(*this); }
+void OrbWhen::setMax(double value) { max.set(*this, value); }
+bool OrbWhen::isMaxPresent() const { return max.isPresent(*this); }
+void OrbWhen::removeMax() { max.remove(*this); }

@@ -3,5 +3,11 @@
 
 #include "loading.h"
 
-OrbX::OrbX(xercesc::DOMElement* element) : CTCoordinate(element) { orbchart::bindLeaf(*this); }
+using namespace orbchart;
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbX>() {
+  return elementDescription<OrbX, DerivedFrom<CTCoordinate>>;
+}
+
+OrbX::OrbX(xercesc::DOMElement* element) : CTCoordinate(element) { bindLeaf(*this); }
 OrbX::~OrbX() = default;

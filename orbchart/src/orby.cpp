@@ -3,5 +3,11 @@
 
 #include "loading.h"
 
-OrbY::OrbY(xercesc::DOMElement* element) : CTCoordinate(element) { orbchart::bindLeaf(*this); }
+using namespace orbchart;
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbY>() {
+  return elementDescription<OrbY, DerivedFrom<CTCoordinate>>;
+}
+
+OrbY::OrbY(xercesc::DOMElement* element) : CTCoordinate(element) { bindLeaf(*this); }
 OrbY::~OrbY() = default;

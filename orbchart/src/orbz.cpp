@@ -3,5 +3,11 @@
 
 #include "loading.h"
 
-OrbZ::OrbZ(xercesc::DOMElement* element) : CTCoordinate(element) { orbchart::bindLeaf(*this); }
+using namespace orbchart;
+
+template <> const ElementDescription& orbchart::descriptionOf<OrbZ>() {
+  return elementDescription<OrbZ, DerivedFrom<CTCoordinate>>;
+}
+
+OrbZ::OrbZ(xercesc::DOMElement* element) : CTCoordinate(element) { bindLeaf(*this); }
 OrbZ::~OrbZ() = default;

@@ -9,15 +9,17 @@
 
 namespace orbchart {
 
-/// The keywords of `missing`, for the enumeration of each source.
+/// The attribute `missing`, for the enumeration of each source.
 template <class Source>
-inline constexpr Keyword<typename Source::ENUM_missing> missingKeywords[] = {
-    {Source::missing_pairwise, Source::_UTF_missing_pairwise},
-    {Source::missing_listwise, Source::_UTF_missing_listwise},
-};
+inline constexpr Keywords missingOf{Source::_UTF_missing,
+                                    Source::missing_unset,
+                                    {
+                                        {Source::missing_pairwise, Source::_UTF_missing_pairwise},
+                                        {Source::missing_listwise, Source::_UTF_missing_listwise},
+                                    }};
 
 /// The families of a source that has no others.
-using SourceFamilies = FamilyList<OrbAggregate, OrbFilter, OrbDataReduction>;
+using SourceFamilies = ChildFamilies<FamilyList<OrbAggregate, OrbFilter, OrbDataReduction>>;
 using AfterSourceAggregates = FamilyList<OrbFilter>;
 
 } // namespace orbchart

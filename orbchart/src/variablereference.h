@@ -1,4 +1,4 @@
-// References to a variable: the keys that nearly all of them try, in one place.
+// References to a variable: the classes that nearly all of them try, in one place.
 #pragma once
 
 #include "orbderivedvariable.h"
@@ -8,9 +8,9 @@
 
 namespace orbchart {
 
-/// The source, derived or expression variable that an attribute points at.
-inline CTVariableType* readVariable(const OrbBaseElement& wrapper, const XMLCh* name) {
-  return readReferenceTo<CTVariableType, OrbSourceVariable, OrbDerivedVariable, OrbExpressionVariable>(wrapper, name);
-}
+/// A reference to a source, derived or expression variable. The setter takes any variable: a multiple response variable
+/// can be written and reads as null.
+using VariableReference =
+    Taking<CTVariableType, ReferenceTo<CTVariableType, OrbSourceVariable, OrbDerivedVariable, OrbExpressionVariable>>;
 
 } // namespace orbchart
