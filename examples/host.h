@@ -7,6 +7,7 @@
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/sax/HandlerBase.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
 #include <exception>
@@ -71,6 +72,14 @@ inline void fillSource(OrbEmbeddedSource& source, const Table& table, const XMLC
     source.addRow()->setText(rowOf(table[line]).c_str());
 }
 
+/// Keeps the XML platform up.
+struct Platform {
+  Platform() { xercesc::XMLPlatformUtils::Initialize(); }
+  Platform(const Platform&) = delete;
+  Platform& operator=(const Platform&) = delete;
+  ~Platform() { xercesc::XMLPlatformUtils::Terminate(); }
+};
+
 /// A chart that this program parsed itself. The DOM belongs to the parser, which outlives the OrbDocument.
 class ParsedChart {
 public:
@@ -94,13 +103,6 @@ private:
     }
   }
 
-  struct Platform {
-    Platform() { xercesc::XMLPlatformUtils::Initialize(); }
-    Platform(const Platform&) = delete;
-    Platform& operator=(const Platform&) = delete;
-    ~Platform() { xercesc::XMLPlatformUtils::Terminate(); }
-  };
-
   Platform platform_;
   xercesc::HandlerBase errors_;
   std::unique_ptr<xercesc::XercesDOMParser> parser_ = std::make_unique<xercesc::XercesDOMParser>();
@@ -113,14 +115,33 @@ inline void requireSameAgain(ParsedChart& parsed, const std::string& printed) {
     throw std::runtime_error("the chart reads differently after a parse");
 }
 
+/// What an exception says that is being handled. Xerces has four families of them, and none is a std::exception.
+inline std::string messageOfException() {
+  try {
+    throw;
+  } catch (const std::exception& error) { // an OrbException among them
+    return error.what();
+  } catch (const xercesc::SAXException& error) {
+    return toUtf8(error.getMessage());
+  } catch (const xercesc::XMLException& error) {
+    return toUtf8(error.getMessage());
+  } catch (const xercesc::DOMException& error) {
+    return toUtf8(error.getMessage());
+  } catch (const xercesc::OutOfMemoryException&) {
+    return "out of memory";
+  }
+}
+
 /// The main function of an example. The work gets the folder of the data, which the one argument names; it prints its
 /// document on the standard output and says on the error stream what it did.
 template <class Work> int run(int count, char** arguments, Work work) {
+  // The memory of an exception of Xerces belongs to the platform, which stays up until it has been handled.
+  const Platform platform;
   try {
     work(std::string(count > 1 ? arguments[1] : "examples/data"));
     return 0;
-  } catch (const std::exception& error) {
-    std::cerr << arguments[0] << ": " << error.what() << "\n";
+  } catch (...) {
+    std::cerr << arguments[0] << ": " << messageOfException() << "\n";
     return 1;
   }
 }

@@ -3,12 +3,14 @@
 #include "chartprinter.h"
 #include "chartstring.h"
 #include "orbbaseelement.h"
+#include "orbcontainer.h"
 #include "orbdocument.h"
 #include "orbembeddedsource.h"
 #include "orbexception.h"
 #include "orbnames.h"
 #include "orbrow.h"
 #include "orbsourcevariable.h"
+#include "orbstyle.h"
 #include "orbvisualization.h"
 
 #include "../tests/support/dom.h"
@@ -162,6 +164,14 @@ void read(OrbDocument& chart) {
   });
 }
 
+/// Dissolves the containers and gathers the styles and the legends.
+void restructure(OrbVisualization& root) {
+  root.reparentContainerChildren();
+  if (!root.getStyles().empty())
+    root.reparentStyles(*root.getStyles().back());
+  root.reparentLegendChildren(*root.addContainer(u"gathered"));
+}
+
 /// Takes everything out again that the root can take out.
 void removeChildren(OrbVisualization& root) {
   for (OrbEmbeddedSource* source : root.getEmbeddedSources()) {
@@ -173,6 +183,8 @@ void removeChildren(OrbVisualization& root) {
   root.removeEmbeddedSources();
   root.removeSourceVariables();
   root.removeGraphs();
+  root.removeContainers();
+  root.removeStyles();
   root.addGraph(u"added");
 }
 
@@ -205,6 +217,8 @@ void checkPrinted(const Parsed& parsed, const std::string& first) noexcept {
     fail("What was printed is another document.", line, first);
 
   OrbDocument chart(again.document());
+  restructure(*chart.GetVisualization());
+  loaded(Parsed(chart.AsUTF8(), Parsing::strict));
   removeChildren(*chart.GetVisualization());
   loaded(Parsed(chart.AsUTF8(), Parsing::strict));
 }

@@ -4,6 +4,7 @@
 #include "dom.h"
 #include "log.h"
 #include "orbcategoricaldomain.h"
+#include "orbcontainer.h"
 #include "orbcoordinates.h"
 #include "orbdimension.h"
 #include "orbdocument.h"
@@ -17,6 +18,7 @@
 #include "orbvariablename.h"
 #include "orbvisualization.h"
 #include "raised.h"
+#include "smallstack.h"
 
 #include <gtest/gtest.h>
 
@@ -295,6 +297,39 @@ TEST(DeepNesting, IsLoadedPrintedAndReleasedToTenThousandLevels) {
   EXPECT_EQ(loadingOf(dom), "nothing raised");
   EXPECT_EQ(onOneLine(row->getImplementation()).size(), std::string("<row></row>").size() + 9'999 * 7 + 4);
   document.reset();
+}
+
+TEST(DeepNesting, NeedsNoDeepStack) {
+  // The path of elements from the root down, the last of which is nested in itself to the limit.
+  for (const std::vector<const XMLCh*>& path : {std::vector<const XMLCh*>{u"container"},
+                                                {u"style"},
+                                                {u"graph", u"faceting", u"blend"},
+                                                {u"labelFrame", u"label", u"alternateLabel"}}) {
+    const NewDocument document(u"visualization");
+    DOMElement* innermost = document.root();
+    for (const XMLCh* name : path)
+      innermost = document.nest(innermost, name, 1);
+    innermost = document.nest(innermost, path.back(), 10'240 - static_cast<unsigned int>(path.size()));
+    std::string printed;
+    test::onSmallStack([&] {
+      const OrbDocument chart(document.document());
+      printed = onOneLine(document.root());
+    });
+    EXPECT_GT(printed.size(), std::size_t{10'000} * (utf8(path.back()).size() + 2)) << utf8(path.back());
+    document.nest(innermost, path.back(), 1);
+    test::onSmallStack([&] { EXPECT_EQ(loadingOf(document.document()), tooDeep) << utf8(path.back()); });
+  }
+}
+
+TEST(DeepNesting, OfWhatTheLibraryMadeEndsOnASmallStack) {
+  test::onSmallStack([] {
+    OrbDocument document;
+    document.getImplementation()->setStrictErrorChecking(false);
+    OrbContainer* container = document.GetVisualization()->addContainer(nullptr);
+    for (int level = 1; level < 10'240; ++level)
+      container = container->addContainer(nullptr);
+    EXPECT_EQ(loadingOf(document.getImplementation()), "nothing raised");
+  });
 }
 
 TEST(DeepNesting, IsRefusedBeyondAndReleased) {

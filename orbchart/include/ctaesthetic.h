@@ -89,6 +89,7 @@ protected:
   /// For a class that refuses the children which are wrapped here, and loads for itself.
   struct WithoutChildren {};
   CTAesthetic(xercesc::DOMElement* element, WithoutChildren);
+  void loadChildren();
 
 private:
   struct Children;

@@ -6,29 +6,46 @@
 #include <memory>
 
 class CTAesthetic;
+class CTVariableType;
 class OrbAggregateStatistic;
 class OrbAttach;
 class OrbBinStatistic;
+class OrbClusteringStatistic;
 class OrbCollectRowsStatistic;
 class OrbColor;
 class OrbColorComponent;
 class OrbConditionalStyle;
 class OrbCoordinates;
 class OrbDash;
+class OrbDistributionStatistic;
 class OrbEvaluateStatistic;
+class OrbExtension;
+class OrbFixedWindowDensityStatistic;
+class OrbGraphLayoutStatistic;
 class OrbImage;
+class OrbLabeling;
+class OrbLinkStatistic;
+class OrbMapStatistic;
+class OrbNearestNeighborDensityStatistic;
 class OrbOffset;
 class OrbPattern;
+class OrbPatternLinkStatistic;
 class OrbPosition;
+class OrbRegionStatistic;
 class OrbReplicate;
 class OrbRotation;
+class OrbSOMStatistic;
 class OrbShape;
 class OrbSize;
+class OrbSmoothStatistic;
 class OrbSplit;
 class OrbStyle;
 class OrbStyleBy;
 class OrbSummaryStatistic;
+class OrbTagCloudStatistic;
 class OrbTransparency;
+class OrbTreeLayoutStatistic;
+class OrbTukeyStatistic;
 class OrbVisibility;
 class OrbWhen;
 class OrbX;
@@ -37,11 +54,11 @@ class OrbZ;
 
 /// A graphic element: the mark that is drawn for the data of a graph.
 ///
-/// The add operations keep the children in groups: conditional styles, then statistics and `when`, then aesthetics,
-/// then `x`, `y`, `z` and `position`. Within a group a new child goes last, whatever its kind. `attach`, `visibility`,
-/// `image` and `replicate` belong to no group and go last when they are added. What is added later goes behind them
-/// unless it finds a child of a later group to go before; a conditional style counts the first `attach` among these. A
-/// load takes any order and any number.
+/// The add operations keep the children in groups: extensions and conditional styles, then statistics and `when`, then
+/// aesthetics and labelings, then `x`, `y`, `z` and `position`. Within a group a new child goes last, whatever its
+/// kind. `attach`, `visibility`, `image` and `replicate` belong to no group and go last when they are added. What is
+/// added later goes behind them unless it finds a child of a later group to go before; the first group counts the first
+/// `attach` among these. A load takes any order and any number.
 ///
 /// A removed child's id stays registered with the document.
 class ORBCHART_EXPORT CTElementType : public OrbBaseElement {
@@ -152,6 +169,12 @@ public:
   void setClip(ENUM_clip clip);
   void removeClip();
 
+  /// Free attributes of the host. A new one does not look for a fixedWindowDensityStatistic: where that is all that
+  /// comes later, it goes after it.
+  OrbExtension* addExtension();
+  std::vector<OrbExtension*> getExtensions() const;
+  unsigned int removeExtensions();
+
   /// The styles of the data for which a condition holds: `when` and the style are written to the new child.
   OrbConditionalStyle* addConditionalStyle(const XMLCh* when, const OrbStyle& style);
   std::vector<OrbConditionalStyle*> getConditionalStyles() const;
@@ -205,6 +228,13 @@ public:
   std::vector<OrbTransparency*> getTransparencys() const;
   unsigned int removeTransparencys();
 
+  /// The labels. The getter gives the family itself and no copy: it sees what is added later. Removing a single one
+  /// looks for the child over the same element, and does nothing when there is none.
+  OrbLabeling* addLabeling();
+  const std::vector<OrbLabeling*>& getLabelings() const;
+  unsigned int removeLabelings();
+  void removeLabeling(OrbLabeling& labeling);
+
   OrbSplit* addSplit();
   std::vector<OrbSplit*> getSplits() const;
   unsigned int removeSplits();
@@ -235,6 +265,7 @@ public:
   OrbZ* getZ() const;
   unsigned int removeZs();
 
+  /// The sorting of rows into bins. Alone among the statistics a new one goes before the smooth statistics, too.
   OrbBinStatistic* addBinStatistic();
   std::vector<OrbBinStatistic*> getBinStatistics() const;
   unsigned int removeBinStatistics();
@@ -243,17 +274,67 @@ public:
   std::vector<OrbAggregateStatistic*> getAggregateStatistics() const;
   unsigned int removeAggregateStatistics();
 
+  OrbClusteringStatistic* addClusteringStatistic();
+  std::vector<OrbClusteringStatistic*> getClusteringStatistics() const;
+  unsigned int removeClusteringStatistics();
+
   OrbCollectRowsStatistic* addCollectRowsStatistic();
   std::vector<OrbCollectRowsStatistic*> getCollectRowsStatistics() const;
   unsigned int removeCollectRowsStatistics();
+
+  OrbDistributionStatistic* addDistributionStatistic();
+  std::vector<OrbDistributionStatistic*> getDistributionStatistics() const;
+  unsigned int removeDistributionStatistics();
+
+  OrbGraphLayoutStatistic* addGraphLayoutStatistic();
+  std::vector<OrbGraphLayoutStatistic*> getGraphLayoutStatistics() const;
+  unsigned int removeGraphLayoutStatistics();
+
+  OrbLinkStatistic* addLinkStatistic();
+  std::vector<OrbLinkStatistic*> getLinkStatistics() const;
+  unsigned int removeLinkStatistics();
+
+  /// The statistics that join the rows to the features of a map; the argument is the file of the map.
+  OrbMapStatistic* addMapStatistic(const XMLCh* mapFile);
+  std::vector<OrbMapStatistic*> getMapStatistics() const;
+  unsigned int removeMapStatistics();
+
+  OrbRegionStatistic* addRegionStatistic();
+  std::vector<OrbRegionStatistic*> getRegionStatistics() const;
+  unsigned int removeRegionStatistics();
+
+  OrbSmoothStatistic* addSmoothStatistic();
+  std::vector<OrbSmoothStatistic*> getSmoothStatistics() const;
+  unsigned int removeSmoothStatistics();
 
   OrbSummaryStatistic* addSummaryStatistic();
   std::vector<OrbSummaryStatistic*> getSummaryStatistics() const;
   unsigned int removeSummaryStatistics();
 
+  OrbTagCloudStatistic* addTagCloudStatistic();
+  std::vector<OrbTagCloudStatistic*> getTagCloudStatistics() const;
+  unsigned int removeTagCloudStatistics();
+
+  /// The layouts of a tree. The two variables are not written: the host sets them on the new child.
+  OrbTreeLayoutStatistic* addTreeLayoutStatistic(const CTVariableType& itemVariable, const CTVariableType& parent);
+  std::vector<OrbTreeLayoutStatistic*> getTreeLayoutStatistics() const;
+  unsigned int removeTreeLayoutStatistics();
+
   OrbEvaluateStatistic* addEvaluateStatistic();
   std::vector<OrbEvaluateStatistic*> getEvaluateStatistics() const;
   unsigned int removeEvaluateStatistics();
+
+  OrbFixedWindowDensityStatistic* addFixedWindowDensityStatistic();
+  std::vector<OrbFixedWindowDensityStatistic*> getFixedWindowDensityStatistics() const;
+  unsigned int removeFixedWindowDensityStatistics();
+
+  OrbNearestNeighborDensityStatistic* addNearestNeighborDensityStatistic();
+  std::vector<OrbNearestNeighborDensityStatistic*> getNearestNeighborDensityStatistics() const;
+  unsigned int removeNearestNeighborDensityStatistics();
+
+  OrbTukeyStatistic* addTukeyStatistic();
+  std::vector<OrbTukeyStatistic*> getTukeyStatistics() const;
+  unsigned int removeTukeyStatistics();
 
   /// The targets that the element is tied to. The name of the operation that removes them all has no plural.
   OrbAttach* addAttach();
@@ -268,6 +349,10 @@ public:
   std::vector<OrbImage*> getImages() const;
   unsigned int removeImages();
 
+  OrbSOMStatistic* addSOMStatistic();
+  std::vector<OrbSOMStatistic*> getSOMStatistics() const;
+  unsigned int removeSOMStatistics();
+
   OrbReplicate* addReplicate();
   std::vector<OrbReplicate*> getReplicates() const;
   unsigned int removeReplicates();
@@ -275,6 +360,10 @@ public:
   OrbWhen* addWhen();
   std::vector<OrbWhen*> getWhens() const;
   unsigned int removeWhens();
+
+  OrbPatternLinkStatistic* addPatternLinkStatistic();
+  std::vector<OrbPatternLinkStatistic*> getPatternLinkStatistics() const;
+  unsigned int removePatternLinkStatistics();
 
 protected:
   explicit CTElementType(xercesc::DOMElement* element);

@@ -8,6 +8,8 @@
 class CTModifier;
 class OrbAggregation;
 class OrbCategoricalDomain;
+class OrbExtensionSV;
+class OrbFormat;
 class OrbIntervalDomain;
 
 /// A variable: the named column that graphs, aesthetics, statistics and sorts speak of, through its id.
@@ -107,12 +109,26 @@ public:
   void setWeight(bool weight);
   void removeWeight();
 
+  /// Statistics of the variable that stand in the document. The one getter gives the first, the other all.
+  OrbExtensionSV* addExtension();
+  OrbExtensionSV* getExtension() const;
+  std::vector<OrbExtensionSV*> getExtensions() const;
+  unsigned int removeExtensions();
+
   /// How small categories are gathered in one, at most one such. A second add raises "Can not add a Aggregation to a
   /// VariableType because 1 Aggregation(s) already exist(s)." with the number that there is. The arguments are the
   /// category, the variable whose shares are compared, and the share below which a category is gathered.
   OrbAggregation* addAggregation(const XMLCh* newCategory, const CTVariableType& sumVariable, double minFraction);
   std::vector<OrbAggregation*> getAggregations() const;
   unsigned int removeAggregations();
+
+  /// How the values are printed, at most one by the first add: a second one raises "Can not add a Format to a
+  /// VariableType because 1 Format(s) already exist(s)." with the number that there is. The other add appends a copy of
+  /// a format, with all that is below it, and counts nothing.
+  OrbFormat* addFormat();
+  void addFormat(OrbFormat& format);
+  std::vector<OrbFormat*> getFormats() const;
+  unsigned int removeFormats();
 
 protected:
   explicit CTVariableType(xercesc::DOMElement* element);

@@ -21,11 +21,27 @@ class OrbVisualization;
 ///   text that is none of the attribute's kind. A reference to nothing, or to an element of another class, is null.
 /// - A null or empty text and a number that is no keyword's write nothing: the attribute stays as it is. An id alone is
 ///   taken away by them. A reference to an object without an id is not written.
-/// - Children are handed out in document order as loaded, then in the order of their addition; the one of a family
-///   that has at most one is null when there is none.
-/// - A remove of children returns how many there were and ends their wrappers and all wrappers below them.
+/// - Children are handed out in document order as loaded, then in the order of their addition, as a copy of the list:
+///   ask once for a loop, not in each turn of it. The one of a family that has at most one is null when there is none.
+/// - A remove of children returns how many there were and ends their wrappers and all wrappers below them. Their
+///   elements stay in the memory of the document until it goes.
+/// - The ids of removed children stay registered, and no new element should be given one of them, unless the remove
+///   takes them off the children first. These do, and no others: `removeBlends`, `removeCrosss` and `removeNests` of
+///   OrbBlend, OrbCross and OrbNest; `removeTransposeTransforms` of OrbCoordinates; `removeStyles` of OrbCycle;
+///   `removeTexts` and `removeDescriptions` of OrbDescriptionGroup; all of OrbDimension; `removeFacetLevels` of
+///   OrbFacetLayout; `removeAxiss` of OrbFacetLevel; all of OrbGraph but `removeExtensions`, `removeRectangleGuides`
+///   and `removeElement`; `removeLocations` and `removeLabels` of OrbLabelFrame; `removeLocations`,
+///   `removeLegendTargets` and `removeLabels` of OrbLegend; `removeGridlines` of OrbMajorTicks and OrbMinorTicks;
+///   `removeStyles` of OrbStyle; `removeCycles` of OrbStyleCycle; and those of OrbVisualization for locations, sources
+///   that take an id, source, derived and expression variables, domains, graphs, containers, legends, label frames,
+///   styles, style cycles, pop-ups and drill-downs. The removes of a single child by its position do not, save
+///   `removeEdge`.
+/// - The text of an element is that of its text nodes: CDATA sections and entity references in it read as nothing.
 class ORBCHART_EXPORT OrbBaseElement {
 public:
+  /// Every wrapper but this base registers itself on its element, in the place of one that stands there. A wrapper that
+  /// a host makes over an element for itself leaves a registration behind when it ends, through which references find
+  /// what is no more: a host that makes one makes it last, or keeps it as long as the document.
   explicit OrbBaseElement(xercesc::DOMElement* element);
   /// A second wrapper over the same element.
   OrbBaseElement(const OrbBaseElement& other);

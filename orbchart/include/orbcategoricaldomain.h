@@ -8,7 +8,10 @@
 class CTVariableType;
 class OrbCategories;
 class OrbDomainReference;
+class OrbFormat;
 class OrbIntervalDomain;
+class OrbSimpleSort;
+class OrbStatisticSort;
 class OrbVariableReference;
 
 /// A domain that lists the categories of a variable that count, and orders them. It may take up the values of other
@@ -46,6 +49,22 @@ public:
   OrbCategories* addCategories();
   std::vector<OrbCategories*> getCategoriess() const;
   unsigned int removeCategoriess();
+
+  /// How the categories are sorted: at most one sort in all, of either kind. A second add, of either kind, raises "Can
+  /// not add a StatisticSort to a CategoricalDomain because 1 StatisticSort(s) already exist(s)." or "... because 1
+  /// SimpleSort(s) already exist(s)." with the number that there is: the text always speaks of adding a StatisticSort.
+  OrbStatisticSort* addStatisticSort(const CTVariableType& sourceVariable);
+  std::vector<OrbStatisticSort*> getStatisticSorts() const;
+  unsigned int removeStatisticSorts();
+
+  OrbSimpleSort* addSimpleSort();
+  std::vector<OrbSimpleSort*> getSimpleSorts() const;
+  unsigned int removeSimpleSorts();
+
+  /// How the categories are printed. There is no limit, and a new one goes before all else.
+  OrbFormat* addFormat();
+  std::vector<OrbFormat*> getFormats() const;
+  unsigned int removeFormats();
 
 private:
   struct Children;

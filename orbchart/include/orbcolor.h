@@ -3,6 +3,11 @@
 
 #include "ctaesthetic.h"
 
+#include <memory>
+
+class OrbColorMapping;
+class OrbStyleCycle;
+
 /// The colour of a graphic element.
 class ORBCHART_EXPORT OrbColor : public CTAesthetic {
 public:
@@ -61,6 +66,8 @@ public:
   void removeHigh();
 
   /// The style cycle that the values run through.
+  OrbStyleCycle* getCycle() const;
+  void setCycle(const OrbStyleCycle& cycle);
   bool isCyclePresent() const;
   void removeCycle();
 
@@ -75,4 +82,13 @@ public:
   void setScaleAttribute(ENUM_scale scale);
   bool isScaleAttributePresent() const;
   void removeScaleAttribute();
+
+  /// The values that are mapped one by one.
+  OrbColorMapping* addColorMapping();
+  std::vector<OrbColorMapping*> getColorMappings() const;
+  unsigned int removeColorMappings();
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
 };

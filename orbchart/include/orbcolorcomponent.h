@@ -3,6 +3,10 @@
 
 #include "ctaesthetic.h"
 
+#include <memory>
+
+class OrbDoubleMapping;
+
 /// One component of the colour of a graphic element.
 class ORBCHART_EXPORT OrbColorComponent : public CTAesthetic {
 public:
@@ -57,4 +61,13 @@ public:
   void setMissing(double missing);
   bool isMissingPresent() const;
   void removeMissing();
+
+  /// The values that are mapped one by one.
+  OrbDoubleMapping* addDoubleMapping();
+  std::vector<OrbDoubleMapping*> getDoubleMappings() const;
+  unsigned int removeDoubleMappings();
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
 };

@@ -7,9 +7,22 @@
 
 class OrbDimension;
 class OrbDimensionReference;
+class OrbFishEyeTransform;
+class OrbFunctionalTransform;
+class OrbInsetTransform;
+class OrbMapProjection;
+class OrbObliqueTransform;
+class OrbParallelCoordinatesTransform;
+class OrbPolarTransform;
+class OrbRectangularTransform;
+class OrbReflectionTransform;
+class OrbRotationTransform;
+class OrbSameRatioTransform;
+class OrbTransposeTransform;
 
-/// One coordinate system of a graph: its dimensions, and the transforms that are applied to them. Dimensions and
-/// references to dimensions stand mixed, in the order of their addition.
+/// One coordinate system of a graph: its dimensions, and the transforms that are applied to them. All of them stand
+/// mixed, in the order of their addition, save that a rectangular transform goes before an inset, and a polar or
+/// transposing one before both.
 class ORBCHART_EXPORT OrbCoordinates : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_coordinates[] = u"coordinates";
@@ -35,6 +48,67 @@ public:
   OrbDimensionReference* addDimensionReference();
   std::vector<OrbDimensionReference*> getDimensionReferences() const;
   unsigned int removeDimensionReferences();
+
+  /// Rotations of the space by an angle.
+  OrbRotationTransform* addRotationTransform();
+  std::vector<OrbRotationTransform*> getRotationTransforms() const;
+  unsigned int removeRotationTransforms();
+
+  /// Reflections along a dimension.
+  OrbReflectionTransform* addReflectionTransform();
+  std::vector<OrbReflectionTransform*> getReflectionTransforms() const;
+  unsigned int removeReflectionTransforms();
+
+  /// Oblique projections.
+  OrbObliqueTransform* addObliqueTransform();
+  std::vector<OrbObliqueTransform*> getObliqueTransforms() const;
+  unsigned int removeObliqueTransforms();
+
+  /// Views of the rectangular space. A new one goes before the first inset.
+  OrbRectangularTransform* addRectangularTransform();
+  std::vector<OrbRectangularTransform*> getRectangularTransforms() const;
+  unsigned int removeRectangularTransforms();
+
+  /// Projections of a map.
+  OrbMapProjection* addMapProjection();
+  std::vector<OrbMapProjection*> getMapProjections() const;
+  unsigned int removeMapProjections();
+
+  /// Magnifying lenses.
+  OrbFishEyeTransform* addFishEyeTransform();
+  std::vector<OrbFishEyeTransform*> getFishEyeTransforms() const;
+  unsigned int removeFishEyeTransforms();
+
+  /// Functions along a dimension.
+  OrbFunctionalTransform* addFunctionalTransform();
+  std::vector<OrbFunctionalTransform*> getFunctionalTransforms() const;
+  unsigned int removeFunctionalTransforms();
+
+  /// Inset rectangles.
+  OrbInsetTransform* addInsetTransform();
+  std::vector<OrbInsetTransform*> getInsetTransforms() const;
+  unsigned int removeInsetTransforms();
+
+  /// Polar coordinates. A new transform goes before the first rectangular one or inset.
+  OrbPolarTransform* addPolarTransform();
+  std::vector<OrbPolarTransform*> getPolarTransforms() const;
+  unsigned int removePolarTransforms();
+
+  /// The same ratio on all dimensions.
+  OrbSameRatioTransform* addSameRatioTransform();
+  std::vector<OrbSameRatioTransform*> getSameRatioTransforms() const;
+  unsigned int removeSameRatioTransforms();
+
+  /// Exchanges of two dimensions. A new one goes before the first rectangular transform or inset. A remove takes the
+  /// ids of these alone away, so that the document forgets them; those of the other transforms stay registered.
+  OrbTransposeTransform* addTransposeTransform();
+  std::vector<OrbTransposeTransform*> getTransposeTransforms() const;
+  unsigned int removeTransposeTransforms();
+
+  /// Parallel coordinates.
+  OrbParallelCoordinatesTransform* addParallelCoordinatesTransform();
+  std::vector<OrbParallelCoordinatesTransform*> getParallelCoordinatesTransforms() const;
+  unsigned int removeParallelCoordinatesTransforms();
 
 private:
   void init();

@@ -3,6 +3,11 @@
 
 #include "ctaesthetic.h"
 
+#include <memory>
+
+class OrbDashMapping;
+class OrbStyleCycle;
+
 /// The dash pattern of the lines of a graphic element.
 class ORBCHART_EXPORT OrbDash : public CTAesthetic {
 public:
@@ -15,6 +20,8 @@ public:
   ~OrbDash() override;
 
   /// The style cycle that the values run through.
+  OrbStyleCycle* getCycle() const;
+  void setCycle(const OrbStyleCycle& cycle);
   bool isCyclePresent() const;
   void removeCycle();
 
@@ -23,4 +30,13 @@ public:
   void setMissing(const XMLCh* missing);
   bool isMissingPresent() const;
   void removeMissing();
+
+  /// The values that are mapped one by one.
+  OrbDashMapping* addDashMapping();
+  std::vector<OrbDashMapping*> getDashMappings() const;
+  unsigned int removeDashMappings();
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
 };

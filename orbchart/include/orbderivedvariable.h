@@ -3,6 +3,10 @@
 
 #include "ctvariabletype.h"
 
+#include <memory>
+
+class OrbValueMapEntry;
+
 /// A variable computed from others.
 class ORBCHART_EXPORT OrbDerivedVariable : public CTVariableType {
 public:
@@ -24,4 +28,14 @@ public:
   void setLanguage(const XMLCh* language);
   bool isLanguagePresent() const;
   void removeLanguage();
+
+  /// The values that are mapped one by one. The remove ends the wrappers, leaves the elements in the document and
+  /// answers 0: they have wrappers again when the document is loaded again.
+  OrbValueMapEntry* addValueMapEntry();
+  std::vector<OrbValueMapEntry*> getValueMapEntrys() const;
+  unsigned int removeValueMapEntrys();
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
 };

@@ -8,10 +8,11 @@
 
 class CTModifier;
 class CTVariableType;
+class OrbAxis;
 class OrbCategoricalDomain;
 class OrbIntervalDomain;
 
-/// One dimension of a coordinate system, with its domain and its scale.
+/// One dimension of a coordinate system, with its domain, its scale and its axes.
 class ORBCHART_EXPORT OrbDimension : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_dimension[] = u"dimension";
@@ -87,6 +88,13 @@ public:
   OrbScale* addScale(OrbScale::ENUM_method method);
   OrbScale* getScale() const;
   unsigned int removeScales();
+
+  /// The axes, at most two. A third add raises "Dimension can have at most 2 axis children.". Removing a single one, at
+  /// a position counted from 0, leaves its id registered, and answers false past the end.
+  OrbAxis* addAxis();
+  std::vector<OrbAxis*> getAxiss() const;
+  unsigned int removeAxiss();
+  bool removeAxis(unsigned int index);
 
 private:
   struct Children;

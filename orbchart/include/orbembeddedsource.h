@@ -8,6 +8,8 @@
 class OrbAggregate;
 class OrbDataReduction;
 class OrbFilter;
+class OrbLabelColumns;
+class OrbLabels;
 class OrbNames;
 class OrbRow;
 class OrbTypes;
@@ -83,6 +85,16 @@ public:
   OrbDataReduction* addDataReduction();
   std::vector<OrbDataReduction*> getDataReductions() const;
   unsigned int removeDataReductions();
+
+  /// The labels of the values, opaque to the library.
+  OrbLabels* addLabels();
+  std::vector<OrbLabels*> getLabelss() const;
+  unsigned int removeLabelss();
+
+  /// The columns that hold labels, opaque to the library. A new one goes last.
+  OrbLabelColumns* addLabelColumns();
+  std::vector<OrbLabelColumns*> getLabelColumnss() const;
+  unsigned int removeLabelColumnss();
 
 private:
   struct Children;

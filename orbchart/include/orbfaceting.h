@@ -9,14 +9,28 @@ class OrbAggregateStatistic;
 class OrbAttach;
 class OrbBinStatistic;
 class OrbBlend;
+class OrbClusteringStatistic;
 class OrbCollectRowsStatistic;
 class OrbCross;
+class OrbDistributionStatistic;
 class OrbDot;
 class OrbEvaluateStatistic;
+class OrbFixedWindowDensityStatistic;
+class OrbGraphLayoutStatistic;
 class OrbLayer;
+class OrbLinkStatistic;
+class OrbMapStatistic;
+class OrbNearestNeighborDensityStatistic;
 class OrbNest;
+class OrbPatternLinkStatistic;
+class OrbRegionStatistic;
 class OrbReplicate;
+class OrbSOMStatistic;
+class OrbSmoothStatistic;
 class OrbSummaryStatistic;
+class OrbTagCloudStatistic;
+class OrbTreeLayoutStatistic;
+class OrbTukeyStatistic;
 class OrbUnity;
 class OrbVariableReference;
 class OrbWhen;
@@ -72,17 +86,73 @@ public:
   std::vector<OrbReplicate*> getReplicates() const;
   unsigned int removeReplicates();
 
+  OrbDistributionStatistic* addDistributionStatistic();
+  std::vector<OrbDistributionStatistic*> getDistributionStatistics() const;
+  unsigned int removeDistributionStatistics();
+
+  OrbGraphLayoutStatistic* addGraphLayoutStatistic();
+  std::vector<OrbGraphLayoutStatistic*> getGraphLayoutStatistics() const;
+  unsigned int removeGraphLayoutStatistics();
+
+  OrbLinkStatistic* addLinkStatistic();
+  std::vector<OrbLinkStatistic*> getLinkStatistics() const;
+  unsigned int removeLinkStatistics();
+
+  OrbMapStatistic* addMapStatistic();
+  std::vector<OrbMapStatistic*> getMapStatistics() const;
+  unsigned int removeMapStatistics();
+
+  OrbRegionStatistic* addRegionStatistic();
+  std::vector<OrbRegionStatistic*> getRegionStatistics() const;
+  unsigned int removeRegionStatistics();
+
+  OrbSmoothStatistic* addSmoothStatistic();
+  std::vector<OrbSmoothStatistic*> getSmoothStatistics() const;
+  unsigned int removeSmoothStatistics();
+
   OrbEvaluateStatistic* addEvaluateStatistic();
   std::vector<OrbEvaluateStatistic*> getEvaluateStatistics() const;
   unsigned int removeEvaluateStatistics();
+
+  OrbFixedWindowDensityStatistic* addFixedWindowDensityStatistic();
+  std::vector<OrbFixedWindowDensityStatistic*> getFixedWindowDensityStatistics() const;
+  unsigned int removeFixedWindowDensityStatistics();
+
+  OrbNearestNeighborDensityStatistic* addNearestNeighborDensityStatistic();
+  std::vector<OrbNearestNeighborDensityStatistic*> getNearestNeighborDensityStatistics() const;
+  unsigned int removeNearestNeighborDensityStatistics();
 
   OrbSummaryStatistic* addSummaryStatistic();
   std::vector<OrbSummaryStatistic*> getSummaryStatistics() const;
   unsigned int removeSummaryStatistics();
 
+  OrbTagCloudStatistic* addTagCloudStatistic();
+  std::vector<OrbTagCloudStatistic*> getTagCloudStatistics() const;
+  unsigned int removeTagCloudStatistics();
+
+  OrbTreeLayoutStatistic* addTreeLayoutStatistic();
+  std::vector<OrbTreeLayoutStatistic*> getTreeLayoutStatistics() const;
+  unsigned int removeTreeLayoutStatistics();
+
+  OrbClusteringStatistic* addClusteringStatistic();
+  std::vector<OrbClusteringStatistic*> getClusteringStatistics() const;
+  unsigned int removeClusteringStatistics();
+
+  OrbSOMStatistic* addSOMStatistic();
+  std::vector<OrbSOMStatistic*> getSOMStatistics() const;
+  unsigned int removeSOMStatistics();
+
+  OrbTukeyStatistic* addTukeyStatistic();
+  std::vector<OrbTukeyStatistic*> getTukeyStatistics() const;
+  unsigned int removeTukeyStatistics();
+
   OrbWhen* addWhen();
   std::vector<OrbWhen*> getWhens() const;
   unsigned int removeWhens();
+
+  OrbPatternLinkStatistic* addPatternLinkStatistic();
+  std::vector<OrbPatternLinkStatistic*> getPatternLinkStatistics() const;
+  unsigned int removePatternLinkStatistics();
 
   OrbVariableReference* addVariableReference();
   std::vector<OrbVariableReference*> getVariableReferences() const;

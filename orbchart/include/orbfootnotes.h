@@ -3,6 +3,10 @@
 
 #include "ctaesthetic.h"
 
+#include <memory>
+
+class OrbFootnoteMapping;
+
 /// The footnotes of labels.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
@@ -28,6 +32,11 @@ public:
   void setSuperscript(bool superscript);
   bool isSuperscriptPresent() const;
   void removeSuperscript();
+
+  /// The values that are mapped one by one.
+  OrbFootnoteMapping* addFootnoteMapping();
+  std::vector<OrbFootnoteMapping*> getFootnoteMappings() const;
+  unsigned int removeFootnoteMappings();
 
 private:
   struct Children;

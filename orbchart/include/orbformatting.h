@@ -3,6 +3,10 @@
 
 #include "ctaesthetic.h"
 
+#include <memory>
+
+class OrbFormatMapping;
+
 /// The formats of labels by their values.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
@@ -13,6 +17,11 @@ public:
 
   explicit OrbFormatting(xercesc::DOMElement* element);
   ~OrbFormatting() override;
+
+  /// The values that are mapped one by one.
+  OrbFormatMapping* addFormatMapping();
+  std::vector<OrbFormatMapping*> getFormatMappings() const;
+  unsigned int removeFormatMappings();
 
 private:
   struct Children;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "orbbaseelement.h"
+#include "orblocation.h"
 
 #include <memory>
 
@@ -10,19 +11,29 @@ class OrbArea;
 class OrbCoordinates;
 class OrbDimension;
 class OrbEdge;
+class OrbExtension;
+class OrbFacetLayout;
 class OrbFaceting;
+class OrbFrameGuide;
+class OrbFunctionGuide;
 class OrbInterval;
 class OrbLine;
+class OrbLineGuide;
 class OrbPath;
+class OrbPlaneGuide;
 class OrbPoint;
+class OrbPointGuide;
 class OrbPolygon;
+class OrbRectangleGuide;
 class OrbSchema;
 class OrbStyle;
 
-/// One graph: a coordinate frame with its faceting and the graphic elements that are drawn in it.
+/// One graph: a coordinate frame with its faceting, its layout of facets, the graphic elements that are drawn in it and
+/// the guides that are laid over it.
 ///
-/// The add operations keep the children in bands: coordinates, then the faceting, then the graphic elements. Within a
-/// band a new child goes last, whatever its kind. A load takes any order and any number.
+/// The add operations keep the children in bands: extensions, locations, coordinates, the faceting, the facet layout,
+/// the graphic elements, the guides. Within a band a new child goes last, whatever its kind. A load takes any order and
+/// any number.
 class ORBCHART_EXPORT OrbGraph : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_graph[] = u"graph";
@@ -70,6 +81,19 @@ public:
   void setAxesOutside(bool axesOutside);
   void removeAxesOutside();
 
+  /// Free attributes of the host. There may be several; the getter gives the first.
+  OrbExtension* addExtension();
+  OrbExtension* getExtension() const;
+  unsigned int removeExtensions();
+
+  /// Where the graph stands: each fixes one edge or size.
+  OrbLocation* addLocation(OrbLocation::ENUM_part part);
+  std::vector<OrbLocation*> getLocations() const;
+  unsigned int removeLocations();
+  /// Removes the locations of a part, takes their ids off them and returns how many that were. Of two neighbours in
+  /// getLocations() that are both of the part the second is passed over and stays.
+  unsigned int removeLocation(OrbLocation::ENUM_part part);
+
   /// The coordinate systems, of which a graphic element chooses one. The one at a position, counted from 0, is null
   /// past the end.
   OrbCoordinates* addCoordinates(const XMLCh* id);
@@ -82,6 +106,12 @@ public:
   OrbFaceting* addFaceting();
   OrbFaceting* getFaceting() const;
   unsigned int removeFacetings();
+
+  /// How the panels are laid out, at most one. A second add raises "Can not add a FacetLayout to a Graph because 1
+  /// FacetLayout(s) already exist(s)." with the number that there is.
+  OrbFacetLayout* addFacetLayout();
+  OrbFacetLayout* getFacetLayout() const;
+  unsigned int removeFacetLayouts();
 
   OrbArea* addArea(const XMLCh* id);
   std::vector<OrbArea*> getAreas() const;
@@ -117,6 +147,30 @@ public:
   OrbSchema* addSchema(const XMLCh* id);
   std::vector<OrbSchema*> getSchemas() const;
   unsigned int removeSchemas();
+
+  OrbFrameGuide* addFrameGuide();
+  std::vector<OrbFrameGuide*> getFrameGuides() const;
+  unsigned int removeFrameGuides();
+
+  OrbFunctionGuide* addFunctionGuide();
+  std::vector<OrbFunctionGuide*> getFunctionGuides() const;
+  unsigned int removeFunctionGuides();
+
+  OrbRectangleGuide* addRectangleGuide();
+  std::vector<OrbRectangleGuide*> getRectangleGuides() const;
+  unsigned int removeRectangleGuides();
+
+  OrbLineGuide* addLineGuide();
+  std::vector<OrbLineGuide*> getLineGuides() const;
+  unsigned int removeLineGuides();
+
+  OrbPlaneGuide* addPlaneGuide();
+  std::vector<OrbPlaneGuide*> getPlaneGuides() const;
+  unsigned int removePlaneGuides();
+
+  OrbPointGuide* addPointGuide();
+  std::vector<OrbPointGuide*> getPointGuides() const;
+  unsigned int removePointGuides();
 
   /// Removes one graphic element of this graph and ends its wrapper; its id stays registered. False, and then nothing
   /// changes, for an element of another graph and for every edge: removeEdge alone removes those.

@@ -3,6 +3,11 @@
 
 #include "ctaesthetic.h"
 
+#include <memory>
+
+class OrbStringMapping;
+class OrbStyleCycle;
+
 /// The image of a graphic element.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
@@ -17,6 +22,8 @@ public:
   ~OrbImage() override;
 
   /// The style cycle that the values run through.
+  OrbStyleCycle* getCycle() const;
+  void setCycle(const OrbStyleCycle& cycle);
   bool isCyclePresent() const;
   void removeCycle();
 
@@ -25,6 +32,11 @@ public:
   void setMissing(const XMLCh* missing);
   bool isMissingPresent() const;
   void removeMissing();
+
+  /// The values that are mapped one by one.
+  OrbStringMapping* addStringMapping();
+  std::vector<OrbStringMapping*> getStringMappings() const;
+  unsigned int removeStringMappings();
 
 private:
   struct Children;

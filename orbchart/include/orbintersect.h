@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class OrbAlternating;
 class OrbIntersectWhere;
 class OrbWhere;
 
@@ -29,6 +30,10 @@ public:
   OrbIntersectWhere* addIntersectWhere();
   std::vector<OrbIntersectWhere*> getIntersectWheres() const;
   unsigned int removeIntersectWheres();
+
+  OrbAlternating* addAlternating();
+  std::vector<OrbAlternating*> getAlternatings() const;
+  unsigned int removeAlternatings();
 
 private:
   struct Children;

@@ -8,6 +8,7 @@
 class CTVariableType;
 class OrbCategoricalDomain;
 class OrbDomainReference;
+class OrbFormat;
 class OrbRange;
 class OrbVariableReference;
 
@@ -46,6 +47,12 @@ public:
   OrbRange* addRange();
   std::vector<OrbRange*> getRanges() const;
   unsigned int removeRanges();
+
+  /// How the values are printed, at most one; it goes last. A second add raises "Can not add a Format to a
+  /// IntervalDomain because 1 Format(s) already exist(s)." with the number that there is.
+  OrbFormat* addFormat();
+  std::vector<OrbFormat*> getFormats() const;
+  unsigned int removeFormats();
 
 private:
   struct Children;

@@ -9,6 +9,8 @@ class OrbDomainExclude;
 class OrbDomainIntersect;
 class OrbDomainReplace;
 class OrbDomainUnion;
+class OrbSimpleSort;
+class OrbStatisticSort;
 
 /// A change of the values of a domain of intervals, by operations of four kinds. They stand in the order of the adds.
 class ORBCHART_EXPORT OrbIntervalDomainModifier : public OrbBaseElement {
@@ -54,6 +56,15 @@ public:
   OrbDomainExclude* addDomainExclude();
   std::vector<OrbDomainExclude*> getDomainExcludes() const;
   unsigned int removeDomainExcludes();
+
+  /// How the values are sorted. There is no limit.
+  OrbSimpleSort* addSimpleSort();
+  std::vector<OrbSimpleSort*> getSimpleSorts() const;
+  unsigned int removeSimpleSorts();
+
+  OrbStatisticSort* addStatisticSort();
+  std::vector<OrbStatisticSort*> getStatisticSorts() const;
+  unsigned int removeStatisticSorts();
 
 private:
   struct Children;

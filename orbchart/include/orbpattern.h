@@ -3,6 +3,11 @@
 
 #include "ctaesthetic.h"
 
+#include <memory>
+
+class OrbIntegerMapping;
+class OrbStyleCycle;
+
 /// The fill pattern of a graphic element.
 class ORBCHART_EXPORT OrbPattern : public CTAesthetic {
 public:
@@ -15,6 +20,8 @@ public:
   ~OrbPattern() override;
 
   /// The style cycle that the values run through.
+  OrbStyleCycle* getCycle() const;
+  void setCycle(const OrbStyleCycle& cycle);
   bool isCyclePresent() const;
   void removeCycle();
 
@@ -23,4 +30,13 @@ public:
   void setMissing(unsigned int missing);
   bool isMissingPresent() const;
   void removeMissing();
+
+  /// The values that are mapped one by one.
+  OrbIntegerMapping* addIntegerMapping();
+  std::vector<OrbIntegerMapping*> getIntegerMappings() const;
+  unsigned int removeIntegerMappings();
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
 };

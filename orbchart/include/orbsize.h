@@ -1,7 +1,13 @@
 // The size of a graphic element, element `size`.
 #pragma once
 
+#include "agaestheticrangelengths.h"
 #include "ctaesthetic.h"
+
+#include <memory>
+
+class OrbLengthMapping;
+class OrbStyleCycle;
 
 /// The size of a graphic element.
 class ORBCHART_EXPORT OrbSize : public CTAesthetic {
@@ -46,6 +52,20 @@ public:
   void removeMissing();
 
   /// The style cycle that the values run through.
+  OrbStyleCycle* getCycle() const;
+  void setCycle(const OrbStyleCycle& cycle);
   bool isCyclePresent() const;
   void removeCycle();
+
+  /// The range as a view of this element, which must not outlive it.
+  AGAestheticRangeLengths getAestheticRangeLengths() const;
+
+  /// The values that are mapped one by one.
+  OrbLengthMapping* addLengthMapping();
+  std::vector<OrbLengthMapping*> getLengthMappings() const;
+  unsigned int removeLengthMappings();
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
 };

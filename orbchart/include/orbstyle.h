@@ -6,6 +6,7 @@
 #include <memory>
 
 class ChartString;
+class OrbExtensionStyle;
 
 /// A named bundle of visual properties, to which most elements refer by its id.
 ///
@@ -788,6 +789,11 @@ public:
   OrbStyle* addStyle();
   std::vector<OrbStyle*> getStyles() const;
   unsigned int removeStyles();
+
+  /// Where the style came from. There may be several; the getter gives the first.
+  OrbExtensionStyle* addExtension();
+  OrbExtensionStyle* getExtension() const;
+  unsigned int removeExtensions();
 
   // Triples
 

@@ -3,6 +3,8 @@
 
 #include "ctaesthetic.h"
 
+class OrbStyleCycle;
+
 /// The style of a graphic element.
 class ORBCHART_EXPORT OrbStyleBy : public CTAesthetic {
 public:
@@ -15,6 +17,8 @@ public:
   ~OrbStyleBy() override;
 
   /// The style cycle that the values run through.
+  OrbStyleCycle* getStyleCycle() const;
+  void setStyleCycle(const OrbStyleCycle& styleCycle);
   void removeStyleCycle();
 
   const XMLCh* getAffects() const;
@@ -22,6 +26,8 @@ public:
   void removeAffects();
 
   /// The style cycle of missing values: a reference in this class alone.
+  OrbStyleCycle* getMissing() const;
+  void setMissing(const OrbStyleCycle& missing);
   bool isMissingPresent() const;
   void removeMissing();
 };

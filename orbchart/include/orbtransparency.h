@@ -1,7 +1,12 @@
 // The transparency of a graphic element, element `transparency`.
 #pragma once
 
+#include "agaestheticrangezeroone.h"
 #include "ctaesthetic.h"
+
+#include <memory>
+
+class OrbDoubleMapping;
 
 /// The transparency of a graphic element.
 class ORBCHART_EXPORT OrbTransparency : public CTAesthetic {
@@ -43,4 +48,16 @@ public:
   void setMissing(double missing);
   bool isMissingPresent() const;
   void removeMissing();
+
+  /// The range as a view of this element, which must not outlive it.
+  AGAestheticRangeZeroOne getAestheticRangeZeroOne() const;
+
+  /// The values that are mapped one by one.
+  OrbDoubleMapping* addDoubleMapping();
+  std::vector<OrbDoubleMapping*> getDoubleMappings() const;
+  unsigned int removeDoubleMappings();
+
+private:
+  struct Children;
+  std::unique_ptr<Children> children_;
 };

@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class OrbDescription2;
 class OrbValue;
 
 /// A group of values with their descriptions. No class of the library makes it or takes it as a child: a host sets it
@@ -20,6 +21,10 @@ public:
   OrbValue* addValue();
   std::vector<OrbValue*> getValues() const;
   unsigned int removeValues();
+
+  OrbDescription2* addDescription();
+  std::vector<OrbDescription2*> getDescriptions() const;
+  unsigned int removeDescriptions();
 
 private:
   struct Children;

@@ -3,6 +3,10 @@
 
 #include "ctaesthetic.h"
 
+#include <memory>
+
+class OrbBooleanMapping;
+
 /// Whether a graphic element is seen.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
@@ -32,6 +36,11 @@ public:
   void setMissing(bool missing);
   bool isMissingPresent() const;
   void removeMissing();
+
+  /// The values that are mapped one by one.
+  OrbBooleanMapping* addBooleanMapping();
+  std::vector<OrbBooleanMapping*> getBooleanMappings() const;
+  unsigned int removeBooleanMappings();
 
 private:
   struct Children;

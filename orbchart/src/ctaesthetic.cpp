@@ -32,8 +32,11 @@ using Attributes = AttributeList<id, variable, dimension, domain, clamp, split, 
 using AfterScale = FamilyList<OrbSummaryStatistic>;
 
 constexpr OnlyOne oneScale{"Scale", "statistic"};
+constexpr OnlyOne oneSummaryStatistic{"SummaryStatistic", "statistic"};
 
-using Families = ChildFamilies<FamilyList<Limited<OrbScale, oneScale>, OrbSummaryStatistic>, Unknown::passes>;
+using Families =
+    ChildFamilies<FamilyList<Limited<OrbScale, oneScale>, Limited<OrbSummaryStatistic, oneSummaryStatistic>>,
+                  Unknown::passes>;
 
 } // namespace
 
@@ -43,12 +46,12 @@ template <> const ElementDescription& orbchart::descriptionOf<CTAesthetic>() {
 
 struct CTAesthetic::Children : Families {};
 
-CTAesthetic::CTAesthetic(DOMElement* element) : OrbBaseElement(element), children_(new Children) {
-  // A concrete aesthetic may have children of its own beside the base's.
-  children_->load(*this);
-}
+CTAesthetic::CTAesthetic(DOMElement* element) : CTAesthetic(element, WithoutChildren()) { loadChildren(); }
 CTAesthetic::CTAesthetic(DOMElement* element, WithoutChildren) : OrbBaseElement(element), children_(new Children) {}
 CTAesthetic::~CTAesthetic() = default;
+
+// A concrete aesthetic may have children of its own beside the base's.
+void CTAesthetic::loadChildren() { children_->load(*this); }
 
 const XMLCh* CTAesthetic::getId() const { return id.get(*this); }
 void CTAesthetic::setId(const XMLCh* value) { id.set(*this, value); }
@@ -92,10 +95,7 @@ OrbScale* CTAesthetic::addScale(OrbScale::ENUM_method method) {
 OrbScale* CTAesthetic::getScale() const { return children_->first<OrbScale>(); }
 unsigned int CTAesthetic::removeScales() { return children_->removeAll<OrbScale>(*this); }
 
-OrbSummaryStatistic* CTAesthetic::addSummaryStatistic() {
-  throwIfNotAlone("SummaryStatistic");
-  return children_->add<OrbSummaryStatistic>(*this, atEnd);
-}
+OrbSummaryStatistic* CTAesthetic::addSummaryStatistic() { return children_->add<OrbSummaryStatistic>(*this, atEnd); }
 OrbSummaryStatistic* CTAesthetic::getSummaryStatistic() const { return children_->first<OrbSummaryStatistic>(); }
 unsigned int CTAesthetic::removeSummaryStatistics() { return children_->removeAll<OrbSummaryStatistic>(*this); }
 

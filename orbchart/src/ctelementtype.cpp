@@ -3,31 +3,48 @@
 
 #include "attribute.h"
 #include "ctaesthetic.h"
+#include "ctvariabletype.h"
 #include "family.h"
 #include "keyword.h"
 #include "orbaggregatestatistic.h"
 #include "orbattach.h"
 #include "orbbinstatistic.h"
+#include "orbclusteringstatistic.h"
 #include "orbcollectrowsstatistic.h"
 #include "orbcolor.h"
 #include "orbcolorcomponent.h"
 #include "orbconditionalstyle.h"
 #include "orbcoordinates.h"
 #include "orbdash.h"
+#include "orbdistributionstatistic.h"
 #include "orbevaluatestatistic.h"
+#include "orbextension.h"
+#include "orbfixedwindowdensitystatistic.h"
+#include "orbgraphlayoutstatistic.h"
 #include "orbimage.h"
+#include "orblabeling.h"
+#include "orblinkstatistic.h"
+#include "orbmapstatistic.h"
+#include "orbnearestneighbordensitystatistic.h"
 #include "orboffset.h"
 #include "orbpattern.h"
+#include "orbpatternlinkstatistic.h"
 #include "orbposition.h"
+#include "orbregionstatistic.h"
 #include "orbreplicate.h"
 #include "orbrotation.h"
 #include "orbshape.h"
 #include "orbsize.h"
+#include "orbsmoothstatistic.h"
+#include "orbsomstatistic.h"
 #include "orbsplit.h"
 #include "orbstyle.h"
 #include "orbstyleby.h"
 #include "orbsummarystatistic.h"
+#include "orbtagcloudstatistic.h"
 #include "orbtransparency.h"
+#include "orbtreelayoutstatistic.h"
+#include "orbtukeystatistic.h"
 #include "orbuni.h"
 #include "orbvisibility.h"
 #include "orbwhen.h"
@@ -98,23 +115,33 @@ constexpr OnlyOne oneX{"X", "ElementType"};
 constexpr OnlyOne oneY{"Y", "ElementType"};
 constexpr OnlyOne oneZ{"Z", "ElementType"};
 
-// The families by group, in document order. A new family takes its place in its group, and with it in the record, in
-// the loader and among the followers of the groups before it.
-using Head = FamilyList<OrbConditionalStyle>;
-using Statistics = FamilyList<OrbBinStatistic, OrbAggregateStatistic, OrbCollectRowsStatistic, OrbSummaryStatistic,
-                              OrbEvaluateStatistic, OrbWhen>;
-using Aesthetics = FamilyList<OrbStyleBy, OrbDash, OrbShape, OrbSize, OrbRotation, OrbColor, OrbOffset, OrbPattern,
-                              OrbTransparency, OrbSplit, OrbColorComponent>;
-using Positions = FamilyList<Limited<OrbX, oneX>, Limited<OrbY, oneY>, Limited<OrbZ, oneZ>, OrbPosition>;
+// The families in the order of the language.
+using Families = ChildFamilies<FamilyList<
+    OrbExtension, OrbConditionalStyle, OrbStyleBy, OrbDash, OrbShape, OrbSize, OrbRotation, OrbColor, OrbOffset,
+    OrbPattern, OrbTransparency, OrbLabeling, OrbSplit, OrbColorComponent, OrbPosition, Limited<OrbX, oneX>,
+    Limited<OrbY, oneY>, Limited<OrbZ, oneZ>, OrbBinStatistic, OrbAggregateStatistic, OrbClusteringStatistic,
+    OrbCollectRowsStatistic, OrbDistributionStatistic, OrbGraphLayoutStatistic, OrbLinkStatistic, OrbMapStatistic,
+    OrbRegionStatistic, OrbSmoothStatistic, OrbSummaryStatistic, OrbTagCloudStatistic, OrbTreeLayoutStatistic,
+    OrbEvaluateStatistic, OrbFixedWindowDensityStatistic, OrbNearestNeighborDensityStatistic, OrbTukeyStatistic,
+    OrbAttach, OrbVisibility, OrbImage, OrbSOMStatistic, OrbReplicate, OrbWhen, OrbPatternLinkStatistic>>;
 
-using AfterAesthetics = Positions;
-using AfterStatistics = Joined<Aesthetics, AfterAesthetics>;
-using AfterHead = Joined<FamilyList<OrbAttach>, Statistics, AfterStatistics>;
-
-// They go last, and no later add looks for them, save that what belongs to the head goes before the first attachment.
-using Unplaced = FamilyList<OrbAttach, OrbVisibility, OrbImage, OrbReplicate>;
-
-using Families = ChildFamilies<Joined<Head, Statistics, Aesthetics, Positions, Unplaced>>;
+// In the document the head comes first, then the statistics, then the aesthetics, then the positions. Attachments,
+// visibilities, images and replicates go last, and no later add looks for them, save that what belongs to the head goes
+// before the first attachment.
+using AfterAesthetics = FamilyList<OrbX, OrbY, OrbZ, OrbPosition>;
+using AfterStatistics = Joined<FamilyList<OrbStyleBy, OrbDash, OrbShape, OrbSize, OrbRotation, OrbColor, OrbOffset,
+                                          OrbPattern, OrbTransparency, OrbLabeling, OrbSplit, OrbColorComponent>,
+                               AfterAesthetics>;
+using AfterBinStatistics = Joined<FamilyList<OrbSmoothStatistic>, AfterStatistics>;
+// An extension does not look for a fixedWindowDensityStatistic.
+using AfterExtensions =
+    Joined<FamilyList<OrbAttach, OrbBinStatistic, OrbAggregateStatistic, OrbClusteringStatistic, OrbSOMStatistic,
+                      OrbWhen, OrbCollectRowsStatistic, OrbDistributionStatistic, OrbGraphLayoutStatistic,
+                      OrbLinkStatistic, OrbMapStatistic, OrbRegionStatistic, OrbSmoothStatistic, OrbSummaryStatistic,
+                      OrbTagCloudStatistic, OrbTreeLayoutStatistic, OrbEvaluateStatistic,
+                      OrbNearestNeighborDensityStatistic, OrbTukeyStatistic, OrbPatternLinkStatistic>,
+           AfterStatistics>;
+using AfterConditionalStyles = Joined<FamilyList<OrbFixedWindowDensityStatistic>, AfterExtensions>;
 
 } // namespace
 
@@ -187,8 +214,12 @@ CTElementType::ENUM_clip CTElementType::getClip() const { return clip.get(*this)
 void CTElementType::setClip(ENUM_clip value) { clip.set(*this, value); }
 void CTElementType::removeClip() { clip.remove(*this); }
 
+OrbExtension* CTElementType::addExtension() { return children_->add<OrbExtension>(*this, AfterExtensions{}); }
+std::vector<OrbExtension*> CTElementType::getExtensions() const { return children_->all<OrbExtension>(); }
+unsigned int CTElementType::removeExtensions() { return children_->removeAll<OrbExtension>(*this); }
+
 OrbConditionalStyle* CTElementType::addConditionalStyle(const XMLCh* when, const OrbStyle& style) {
-  return children_->add<OrbConditionalStyle>(*this, AfterHead{}, when, style);
+  return children_->add<OrbConditionalStyle>(*this, AfterConditionalStyles{}, when, style);
 }
 std::vector<OrbConditionalStyle*> CTElementType::getConditionalStyles() const {
   return children_->all<OrbConditionalStyle>();
@@ -242,6 +273,13 @@ OrbTransparency* CTElementType::addTransparency() { return children_->add<OrbTra
 std::vector<OrbTransparency*> CTElementType::getTransparencys() const { return children_->all<OrbTransparency>(); }
 unsigned int CTElementType::removeTransparencys() { return children_->removeAll<OrbTransparency>(*this); }
 
+OrbLabeling* CTElementType::addLabeling() { return children_->add<OrbLabeling>(*this, AfterAesthetics{}); }
+const std::vector<OrbLabeling*>& CTElementType::getLabelings() const { return children_->live<OrbLabeling>(); }
+unsigned int CTElementType::removeLabelings() { return children_->removeAll<OrbLabeling>(*this); }
+void CTElementType::removeLabeling(OrbLabeling& labeling) {
+  children_->removeOver<OrbLabeling>(*this, labeling.getImplementation());
+}
+
 OrbSplit* CTElementType::addSplit() { return children_->add<OrbSplit>(*this, AfterAesthetics{}); }
 std::vector<OrbSplit*> CTElementType::getSplits() const { return children_->all<OrbSplit>(); }
 unsigned int CTElementType::removeSplits() { return children_->removeAll<OrbSplit>(*this); }
@@ -270,7 +308,9 @@ OrbZ* CTElementType::addZ() { return children_->add<OrbZ>(*this, atEnd); }
 OrbZ* CTElementType::getZ() const { return children_->first<OrbZ>(); }
 unsigned int CTElementType::removeZs() { return children_->removeAll<OrbZ>(*this); }
 
-OrbBinStatistic* CTElementType::addBinStatistic() { return children_->add<OrbBinStatistic>(*this, AfterStatistics{}); }
+OrbBinStatistic* CTElementType::addBinStatistic() {
+  return children_->add<OrbBinStatistic>(*this, AfterBinStatistics{});
+}
 std::vector<OrbBinStatistic*> CTElementType::getBinStatistics() const { return children_->all<OrbBinStatistic>(); }
 unsigned int CTElementType::removeBinStatistics() { return children_->removeAll<OrbBinStatistic>(*this); }
 
@@ -282,6 +322,14 @@ std::vector<OrbAggregateStatistic*> CTElementType::getAggregateStatistics() cons
 }
 unsigned int CTElementType::removeAggregateStatistics() { return children_->removeAll<OrbAggregateStatistic>(*this); }
 
+OrbClusteringStatistic* CTElementType::addClusteringStatistic() {
+  return children_->add<OrbClusteringStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbClusteringStatistic*> CTElementType::getClusteringStatistics() const {
+  return children_->all<OrbClusteringStatistic>();
+}
+unsigned int CTElementType::removeClusteringStatistics() { return children_->removeAll<OrbClusteringStatistic>(*this); }
+
 OrbCollectRowsStatistic* CTElementType::addCollectRowsStatistic() {
   return children_->add<OrbCollectRowsStatistic>(*this, AfterStatistics{});
 }
@@ -292,6 +340,54 @@ unsigned int CTElementType::removeCollectRowsStatistics() {
   return children_->removeAll<OrbCollectRowsStatistic>(*this);
 }
 
+OrbDistributionStatistic* CTElementType::addDistributionStatistic() {
+  return children_->add<OrbDistributionStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbDistributionStatistic*> CTElementType::getDistributionStatistics() const {
+  return children_->all<OrbDistributionStatistic>();
+}
+unsigned int CTElementType::removeDistributionStatistics() {
+  return children_->removeAll<OrbDistributionStatistic>(*this);
+}
+
+OrbGraphLayoutStatistic* CTElementType::addGraphLayoutStatistic() {
+  return children_->add<OrbGraphLayoutStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbGraphLayoutStatistic*> CTElementType::getGraphLayoutStatistics() const {
+  return children_->all<OrbGraphLayoutStatistic>();
+}
+unsigned int CTElementType::removeGraphLayoutStatistics() {
+  return children_->removeAll<OrbGraphLayoutStatistic>(*this);
+}
+
+OrbLinkStatistic* CTElementType::addLinkStatistic() {
+  return children_->add<OrbLinkStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbLinkStatistic*> CTElementType::getLinkStatistics() const { return children_->all<OrbLinkStatistic>(); }
+unsigned int CTElementType::removeLinkStatistics() { return children_->removeAll<OrbLinkStatistic>(*this); }
+
+OrbMapStatistic* CTElementType::addMapStatistic(const XMLCh* mapFile) {
+  return children_->add<OrbMapStatistic>(*this, AfterStatistics{}, mapFile);
+}
+std::vector<OrbMapStatistic*> CTElementType::getMapStatistics() const { return children_->all<OrbMapStatistic>(); }
+unsigned int CTElementType::removeMapStatistics() { return children_->removeAll<OrbMapStatistic>(*this); }
+
+OrbRegionStatistic* CTElementType::addRegionStatistic() {
+  return children_->add<OrbRegionStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbRegionStatistic*> CTElementType::getRegionStatistics() const {
+  return children_->all<OrbRegionStatistic>();
+}
+unsigned int CTElementType::removeRegionStatistics() { return children_->removeAll<OrbRegionStatistic>(*this); }
+
+OrbSmoothStatistic* CTElementType::addSmoothStatistic() {
+  return children_->add<OrbSmoothStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbSmoothStatistic*> CTElementType::getSmoothStatistics() const {
+  return children_->all<OrbSmoothStatistic>();
+}
+unsigned int CTElementType::removeSmoothStatistics() { return children_->removeAll<OrbSmoothStatistic>(*this); }
+
 OrbSummaryStatistic* CTElementType::addSummaryStatistic() {
   return children_->add<OrbSummaryStatistic>(*this, AfterStatistics{});
 }
@@ -300,6 +396,23 @@ std::vector<OrbSummaryStatistic*> CTElementType::getSummaryStatistics() const {
 }
 unsigned int CTElementType::removeSummaryStatistics() { return children_->removeAll<OrbSummaryStatistic>(*this); }
 
+OrbTagCloudStatistic* CTElementType::addTagCloudStatistic() {
+  return children_->add<OrbTagCloudStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbTagCloudStatistic*> CTElementType::getTagCloudStatistics() const {
+  return children_->all<OrbTagCloudStatistic>();
+}
+unsigned int CTElementType::removeTagCloudStatistics() { return children_->removeAll<OrbTagCloudStatistic>(*this); }
+
+OrbTreeLayoutStatistic* CTElementType::addTreeLayoutStatistic(const CTVariableType& /*itemVariable*/,
+                                                              const CTVariableType& /*parent*/) {
+  return children_->add<OrbTreeLayoutStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbTreeLayoutStatistic*> CTElementType::getTreeLayoutStatistics() const {
+  return children_->all<OrbTreeLayoutStatistic>();
+}
+unsigned int CTElementType::removeTreeLayoutStatistics() { return children_->removeAll<OrbTreeLayoutStatistic>(*this); }
+
 OrbEvaluateStatistic* CTElementType::addEvaluateStatistic() {
   return children_->add<OrbEvaluateStatistic>(*this, AfterStatistics{});
 }
@@ -307,6 +420,34 @@ std::vector<OrbEvaluateStatistic*> CTElementType::getEvaluateStatistics() const 
   return children_->all<OrbEvaluateStatistic>();
 }
 unsigned int CTElementType::removeEvaluateStatistics() { return children_->removeAll<OrbEvaluateStatistic>(*this); }
+
+OrbFixedWindowDensityStatistic* CTElementType::addFixedWindowDensityStatistic() {
+  return children_->add<OrbFixedWindowDensityStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbFixedWindowDensityStatistic*> CTElementType::getFixedWindowDensityStatistics() const {
+  return children_->all<OrbFixedWindowDensityStatistic>();
+}
+unsigned int CTElementType::removeFixedWindowDensityStatistics() {
+  return children_->removeAll<OrbFixedWindowDensityStatistic>(*this);
+}
+
+OrbNearestNeighborDensityStatistic* CTElementType::addNearestNeighborDensityStatistic() {
+  return children_->add<OrbNearestNeighborDensityStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbNearestNeighborDensityStatistic*> CTElementType::getNearestNeighborDensityStatistics() const {
+  return children_->all<OrbNearestNeighborDensityStatistic>();
+}
+unsigned int CTElementType::removeNearestNeighborDensityStatistics() {
+  return children_->removeAll<OrbNearestNeighborDensityStatistic>(*this);
+}
+
+OrbTukeyStatistic* CTElementType::addTukeyStatistic() {
+  return children_->add<OrbTukeyStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbTukeyStatistic*> CTElementType::getTukeyStatistics() const {
+  return children_->all<OrbTukeyStatistic>();
+}
+unsigned int CTElementType::removeTukeyStatistics() { return children_->removeAll<OrbTukeyStatistic>(*this); }
 
 OrbAttach* CTElementType::addAttach() { return children_->add<OrbAttach>(*this, atEnd); }
 std::vector<OrbAttach*> CTElementType::getAttachs() const { return children_->all<OrbAttach>(); }
@@ -320,6 +461,10 @@ OrbImage* CTElementType::addImage() { return children_->add<OrbImage>(*this, atE
 std::vector<OrbImage*> CTElementType::getImages() const { return children_->all<OrbImage>(); }
 unsigned int CTElementType::removeImages() { return children_->removeAll<OrbImage>(*this); }
 
+OrbSOMStatistic* CTElementType::addSOMStatistic() { return children_->add<OrbSOMStatistic>(*this, AfterStatistics{}); }
+std::vector<OrbSOMStatistic*> CTElementType::getSOMStatistics() const { return children_->all<OrbSOMStatistic>(); }
+unsigned int CTElementType::removeSOMStatistics() { return children_->removeAll<OrbSOMStatistic>(*this); }
+
 OrbReplicate* CTElementType::addReplicate() { return children_->add<OrbReplicate>(*this, atEnd); }
 std::vector<OrbReplicate*> CTElementType::getReplicates() const { return children_->all<OrbReplicate>(); }
 unsigned int CTElementType::removeReplicates() { return children_->removeAll<OrbReplicate>(*this); }
@@ -327,3 +472,13 @@ unsigned int CTElementType::removeReplicates() { return children_->removeAll<Orb
 OrbWhen* CTElementType::addWhen() { return children_->add<OrbWhen>(*this, AfterStatistics{}); }
 std::vector<OrbWhen*> CTElementType::getWhens() const { return children_->all<OrbWhen>(); }
 unsigned int CTElementType::removeWhens() { return children_->removeAll<OrbWhen>(*this); }
+
+OrbPatternLinkStatistic* CTElementType::addPatternLinkStatistic() {
+  return children_->add<OrbPatternLinkStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbPatternLinkStatistic*> CTElementType::getPatternLinkStatistics() const {
+  return children_->all<OrbPatternLinkStatistic>();
+}
+unsigned int CTElementType::removePatternLinkStatistics() {
+  return children_->removeAll<OrbPatternLinkStatistic>(*this);
+}

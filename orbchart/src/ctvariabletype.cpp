@@ -7,10 +7,14 @@
 #include "modifierreference.h"
 #include "orbaggregation.h"
 #include "orbcategoricaldomain.h"
+#include "orbextensionsv.h"
+#include "orbformat.h"
 #include "orbintervaldomain.h"
 #include "orbuni.h"
 #include "reference.h"
 #include "variablereference.h"
+
+#include <xercesc/dom/DOMDocument.hpp>
 
 using namespace orbchart;
 using xercesc::DOMElement;
@@ -44,12 +48,14 @@ constexpr Boolean weight{OrbUni::_weight};
 using Attributes = AttributeList<id, label, shortLabel, description, creator, source, domain, domainModifier, dependsOn,
                                  labelVariable, measurementLevel, categorical, key, weight>;
 
-// What the language has after them has no class here.
-using AfterAggregations = FamilyList<>;
-
 constexpr OnlyOne oneAggregation{"Aggregation", "VariableType"};
+constexpr OnlyOne oneFormat{"Format", "VariableType"};
 
-using Families = ChildFamilies<FamilyList<Limited<OrbAggregation, oneAggregation>>, Unknown::passes>;
+using AfterAggregations = FamilyList<OrbFormat>;
+using AfterExtensions = Joined<FamilyList<OrbAggregation>, AfterAggregations>;
+using Families =
+    ChildFamilies<FamilyList<OrbExtensionSV, Limited<OrbAggregation, oneAggregation>, Limited<OrbFormat, oneFormat>>,
+                  Unknown::passes>;
 
 } // namespace
 
@@ -131,9 +137,26 @@ bool CTVariableType::getWeight() const { return weight.get(*this); }
 void CTVariableType::setWeight(bool value) { weight.set(*this, value); }
 void CTVariableType::removeWeight() { weight.remove(*this); }
 
+OrbExtensionSV* CTVariableType::addExtension() { return children_->add<OrbExtensionSV>(*this, AfterExtensions{}); }
+OrbExtensionSV* CTVariableType::getExtension() const { return children_->first<OrbExtensionSV>(); }
+std::vector<OrbExtensionSV*> CTVariableType::getExtensions() const { return children_->all<OrbExtensionSV>(); }
+unsigned int CTVariableType::removeExtensions() { return children_->removeAll<OrbExtensionSV>(*this); }
+
 OrbAggregation* CTVariableType::addAggregation(const XMLCh* newCategory, const CTVariableType& sumVariable,
                                                double minFraction) {
   return children_->add<OrbAggregation>(*this, AfterAggregations{}, newCategory, sumVariable, minFraction);
 }
 std::vector<OrbAggregation*> CTVariableType::getAggregations() const { return children_->all<OrbAggregation>(); }
 unsigned int CTVariableType::removeAggregations() { return children_->removeAll<OrbAggregation>(*this); }
+
+OrbFormat* CTVariableType::addFormat() { return children_->add<OrbFormat>(*this, atEnd); }
+void CTVariableType::addFormat(OrbFormat& format) {
+  xercesc::DOMDocument* document = getImplementation()->getOwnerDocument();
+  DOMElement* element = format.getImplementation();
+  // A format of another document comes over as well.
+  xercesc::DOMNode* copy =
+      element->getOwnerDocument() == document ? element->cloneNode(true) : document->importNode(element, true);
+  children_->adopt<OrbFormat>(*this, static_cast<DOMElement*>(copy), atEnd);
+}
+std::vector<OrbFormat*> CTVariableType::getFormats() const { return children_->all<OrbFormat>(); }
+unsigned int CTVariableType::removeFormats() { return children_->removeAll<OrbFormat>(*this); }

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace orbchart {
 
@@ -79,6 +80,13 @@ struct ElementDescription {
   /// Whether attributes and children of any name may stand there.
   bool isFree = false;
 };
+
+/// All attributes of an element: those of its base first, save what the class has of its own by that name.
+std::vector<AttributeDescription> attributesOf(const ElementDescription& element);
+/// All families of an element in the same way.
+std::vector<FamilyDescription> familiesOf(const ElementDescription& element);
+/// What a load of the element does with a child that is of none of its families.
+Unknown unknownChildrenOf(const ElementDescription& element);
 
 /// The name of a class, as the compiler spells it.
 template <class Wrapper> consteval std::string_view classNameOf() {

@@ -3,6 +3,8 @@
 
 #include <xercesc/dom/DOM.hpp>
 
+#include <string>
+
 using xercesc::DOMElement;
 using xercesc::DOMNode;
 
@@ -15,6 +17,23 @@ ChartString readText(const OrbBaseElement& wrapper) {
       return ChartString(node->getNodeValue());
   }
   return ChartString();
+}
+
+ChartString readAllText(const OrbBaseElement& wrapper) {
+  ChartString text;
+  // An append walks all that it appends to: what follows the first text is gathered before.
+  std::basic_string<XMLCh> rest;
+  for (const DOMNode* node = wrapper.getImplementation()->getFirstChild(); node != nullptr;
+       node = node->getNextSibling()) {
+    if (node->getNodeType() != DOMNode::TEXT_NODE)
+      continue;
+    if (text.empty())
+      text.append(node->getNodeValue());
+    else
+      rest += node->getNodeValue();
+  }
+  text.append(rest.c_str());
+  return text;
 }
 
 void writeText(OrbBaseElement& wrapper, const XMLCh* text) {

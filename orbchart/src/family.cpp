@@ -56,11 +56,15 @@ void discard(OrbBaseElement* wrapper, Registrations registrations) {
   waiting = nullptr;
 }
 
+bool isChild(const OrbBaseElement& parent, const OrbBaseElement& child) {
+  return child.getImplementation()->getParentNode() == parent.getImplementation();
+}
+
 void takeOut(const OrbBaseElement& parent, const OrbBaseElement& child, bool stripId) {
   DOMElement* element = child.getImplementation();
   if (stripId)
     element->removeAttribute(OrbUni::_id);
-  if (element->getParentNode() == parent.getImplementation())
+  if (isChild(parent, child))
     parent.getImplementation()->removeChild(element);
 }
 

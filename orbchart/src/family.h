@@ -150,6 +150,9 @@ enum class Registrations { stay, go };
 /// no deep stack.
 void discard(OrbBaseElement* wrapper, Registrations registrations);
 
+/// Whether the element of a child stands in its parent.
+bool isChild(const OrbBaseElement& parent, const OrbBaseElement& child);
+
 /// Takes the element of a child out of its parent, and before that its id off it if asked.
 void takeOut(const OrbBaseElement& parent, const OrbBaseElement& child, bool stripId);
 
@@ -265,6 +268,10 @@ class ChildFamilies<FamilyList<Entries...>, unknown> : private Family<ChildOf<En
 public:
   /// Wraps the children that the parent's element has.
   void load(const OrbBaseElement& parent) { loadChildren(parent, this, loaded); }
+  /// The same where one of the families is refused.
+  template <class Refused> void loadWithout(const OrbBaseElement& parent) {
+    loadChildren(parent, this, loadedWithout<Refused>);
+  }
   /// Wraps one node among the parent's children.
   void loadOne(const OrbBaseElement& parent, xercesc::DOMNode* node) { loadChild(parent, node, this, loaded); }
 
@@ -341,6 +348,9 @@ public:
   /// Lets go of the wrappers of a family, which the caller then owns, and leaves their elements in the document.
   template <class Child> std::vector<Child*> releaseAll() { return family<Child>().releaseAll(); }
 
+  /// Ends the wrappers whose elements stand no more in the parent.
+  void dropMoved(const OrbBaseElement& parent) { (dropMovedOf<ChildOf<Entries>>(parent), ...); }
+
   static constexpr void describe(ElementDescription& element) {
     element.families = described;
     element.loadsChildren = true;
@@ -360,15 +370,20 @@ private:
     place.keep();
     return wrapper;
   }
+  template <class Child> void dropMovedOf(const OrbBaseElement& parent) {
+    for (Child* wrapper : releaseAll<Child>()) {
+      if (isChild(parent, *wrapper))
+        append(wrapper);
+      else
+        discard(wrapper, Registrations::go);
+    }
+  }
   template <class Child> static void wrap(void* families, xercesc::DOMElement& child) {
     static_cast<ChildFamilies*>(families)->family<Child>().append(new Child(&child));
   }
   template <class Child> static void unwrap(void* families) {
     auto& family = static_cast<ChildFamilies*>(families)->family<Child>();
     family.remove(family.wrappers().size() - 1);
-  }
-  static void unwrapAll([[maybe_unused]] void* families) {
-    (static_cast<ChildFamilies*>(families)->family<ChildOf<Entries>>().clear(Registrations::go), ...);
   }
   static xercesc::DOMNode* elementOf(const OrbBaseElement* wrapper) {
     return wrapper == nullptr ? nullptr : wrapper->getImplementation();
@@ -377,7 +392,9 @@ private:
   // An array has room for one family more, as a class may have none.
   static constexpr LoadedFamily known[sizeof...(Entries) + 1] = {
       {ChildOf<Entries>::elementName, &wrap<ChildOf<Entries>>, &unwrap<ChildOf<Entries>>}...};
-  static constexpr LoadedFamilies loaded = {known, sizeof...(Entries), unknown, &unwrapAll};
+  static constexpr LoadedFamilies loaded = {known, sizeof...(Entries), unknown};
+  template <class Refused>
+  static constexpr LoadedFamilies loadedWithout = {known, sizeof...(Entries), unknown, Refused::elementName};
   static constexpr std::array<FamilyDescription, sizeof...(Entries)> described = {FamilyEntry<Entries>::describe()...};
 };
 

@@ -18,8 +18,10 @@ template <class Enumeration> struct Keyword {
 };
 
 /// For a class in which an absent attribute reads as one of its keywords.
-template <class Enumeration> struct AbsentReadsAs { Enumeration value; };
-template <class Enumeration> AbsentReadsAs(Enumeration) -> AbsentReadsAs<Enumeration>;
+template <class Enumeration> struct AbsentReadsAs {
+  constexpr explicit AbsentReadsAs(Enumeration keyword) : value(keyword) {}
+  Enumeration value;
+};
 
 /// Whether the class has a setter for any text beside that for the keywords.
 enum class OtherTexts { none, allowed };

@@ -11,6 +11,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <deque>
+#include <iterator>
+#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -21,33 +24,31 @@ using xercesc::XMLString;
 namespace orbchart {
 
 /// The load that is running on this thread, from the outermost wrapper's constructor to its end. It keeps the elements
-/// that it is at in a stack of its own.
+/// that it is at in a stack of its own, so that a deep document asks for no deep one of the thread.
 ///
-/// Before it registers the first wrapper, it has seen that nothing lies too deep: once a document has had
-/// registrations, Xerces walks over it by recursion when it is released. Where something lies too deep, the load goes
-/// on until it raises, and registers nothing.
+/// What it has made is registered at its end, and when it fails, nothing is: a document that is too deep must never
+/// have had a registration, since Xerces walks by recursion over one that had when it is released.
 class Load {
 public:
-  Load(const OrbBaseElement& outermost, DOMNode* first, bool withSiblings);
+  explicit Load(const OrbBaseElement& outermost) : outermost_(outermost) { running = this; }
   Load(const Load&) = delete;
   Load& operator=(const Load&) = delete;
   ~Load() { running = nullptr; }
 
   /// The load of this thread; null when none is running.
-  static constinit thread_local Load* running;
-
-  /// Whether something lies too deep.
-  bool isDoomed() const { return isDoomed_; }
-  /// Raises in a doomed load if elements lie too deep below an element whose children have no wrappers.
-  void refuseDeepContent(DOMElement& element) const;
+  [[gnu::tls_model("initial-exec")]] static constinit thread_local Load* running;
 
   void leaveChildren(const OrbBaseElement& parent, DOMNode* first, void* families, const LoadedFamilies& loaded);
-  /// Wraps one child now, and what lies below it.
+  /// Wraps one child and what lies below it. When that fails, the child leaves its family again.
   void wrapOne(const OrbBaseElement& parent, DOMElement& child, void* families, const LoadedFamilies& loaded);
-  /// Wraps all that was left.
+  /// Wraps all that was left, and registers the wrappers.
   void run();
-  /// A registration that another one takes the place of.
-  void note(DOMElement& element, const XMLCh* key, void* wrapper) { replaced_.push_back({&element, key, wrapper}); }
+  /// Registers a wrapper at the end.
+  void leaveBinding(DOMElement& element, const XMLCh* key, void* wrapper) {
+    bindings_.push_back({&element, key, wrapper});
+  }
+  /// Raises if elements lie too deep below an element whose children have no wrappers.
+  void refuseDeepContent(const DOMElement& element) const;
 
 private:
   /// Children of a wrapper that are still to wrap, from one on.
@@ -58,26 +59,21 @@ private:
     const LoadedFamilies* loaded;
     unsigned int level;
   };
-  struct Registration {
+  struct Binding {
     DOMElement* element;
     const XMLCh* key;
     void* wrapper;
   };
-  struct Outermost {
-    void* families;
-    void (*unwrap)(void* families);
-  };
 
   void wrapChildren();
-  void takeBack();
+  void bindAll();
 
   const OrbBaseElement& outermost_;
-  bool isDoomed_;
   /// How deep the children of the wrapper lie that is being made.
   unsigned int level_ = 1;
   std::vector<Rest> rests_;
-  std::vector<Registration> replaced_;
-  std::vector<Outermost> outermostFamilies_;
+  std::pmr::monotonic_buffer_resource memory_;
+  std::pmr::deque<Binding> bindings_{&memory_};
 };
 
 constinit thread_local Load* Load::running = nullptr;
@@ -95,38 +91,33 @@ DOMElement& requiredElement(const OrbBaseElement& wrapper) {
         ChartString(top.getTagName()).toUTF8() + ".");
 }
 
-/// Whether an element among the nodes, or below them, lies deeper than the limit.
-bool liesTooDeep(DOMNode* node, bool withSiblings, unsigned int level) {
-  std::vector<DOMNode*> rests; // asking a node for its parent costs more
-  if (!withSiblings && node->getNodeType() == DOMNode::ELEMENT_NODE) {
-    node = node->getFirstChild();
-    ++level;
-  }
-  const unsigned int top = level;
+/// Whether anything among some siblings, which lie at a level, or below them lies deeper than the limit.
+bool liesTooDeep(const DOMNode* node, unsigned int level) {
+  std::vector<const DOMNode*> rests; // asking a node for its parent costs more
   for (;;) {
     while (node == nullptr) {
-      if (level == top)
+      if (rests.empty())
         return false;
       node = rests.back();
       rests.pop_back();
       --level;
     }
-    DOMNode* const next = node->getNextSibling();
-    if (node->getNodeType() == DOMNode::ELEMENT_NODE) {
-      if (level > maximumNesting)
-        return true;
-      if (DOMNode* const child = node->getFirstChild()) {
-        rests.push_back(next);
-        ++level;
-        node = child;
-        continue;
-      }
+    const DOMNode* const child = node->getFirstChild();
+    const DOMNode* const next = node->getNextSibling();
+    if (child == nullptr) {
+      node = next;
+      continue;
     }
-    node = next;
+    if (++level > maximumNesting)
+      return true;
+    rests.push_back(next);
+    node = child;
   }
 }
 
 const LoadedFamily* findFamily(const XMLCh* name, const LoadedFamilies& loaded) {
+  if (loaded.refused != nullptr && XMLString::equals(name, loaded.refused))
+    return nullptr;
   for (const LoadedFamily* family = loaded.known; family != loaded.known + loaded.count; ++family) {
     if (family->elementName[0] == name[0] && XMLString::equals(family->elementName, name))
       return family;
@@ -146,42 +137,34 @@ void wrapChild(const OrbBaseElement& parent, DOMElement& child, void* families, 
 
 } // namespace
 
-Load::Load(const OrbBaseElement& outermost, DOMNode* first, bool withSiblings) :
-    outermost_(outermost), isDoomed_(liesTooDeep(first, withSiblings, 1)) {
-  running = this;
-}
-
-void Load::refuseDeepContent(DOMElement& element) const {
-  // The children of a wrapper over the element would lie at the level.
-  if (isDoomed_ && liesTooDeep(element.getFirstChild(), true, level_))
-    raiseTooDeep(requiredElement(outermost_));
-}
-
 void Load::leaveChildren(const OrbBaseElement& parent, DOMNode* first, void* families, const LoadedFamilies& loaded) {
-  if (isDoomed_ && level_ > maximumNesting)
+  if (level_ > maximumNesting)
     raiseTooDeep(requiredElement(outermost_));
-  if (level_ == 1)
-    outermostFamilies_.push_back({families, loaded.unwrapAll});
   rests_.push_back({first, &parent, families, &loaded, level_});
+}
+
+void Load::refuseDeepContent(const DOMElement& element) const {
+  if (liesTooDeep(element.getFirstChild(), level_))
+    raiseTooDeep(requiredElement(outermost_));
 }
 
 void Load::wrapOne(const OrbBaseElement& parent, DOMElement& child, void* families, const LoadedFamilies& loaded) {
   const LoadedFamily* family = findFamily(child.getTagName(), loaded);
   level_ = 2;
   wrapChild(parent, child, families, family, loaded.unknown);
-  outermostFamilies_.push_back({families, family->unwrap});
-  run();
+  try {
+    run();
+  } catch (...) {
+    family->unwrap(families);
+    throw;
+  }
 }
 
 void Load::run() {
   std::reverse(rests_.begin(), rests_.end()); // the base's children come first
-  try {
-    while (!rests_.empty())
-      wrapChildren();
-  } catch (...) {
-    takeBack();
-    throw;
-  }
+  while (!rests_.empty())
+    wrapChildren();
+  bindAll();
 }
 
 /// Wraps children of one wrapper until one of them leaves children of its own.
@@ -213,20 +196,18 @@ void Load::wrapChildren() {
   rests_.pop_back();
 }
 
-/// Ends what the load has made and leaves the registrations as they were.
-void Load::takeBack() {
-  while (!replaced_.empty()) {
-    const Registration registration = replaced_.back();
-    replaced_.pop_back();
-    registration.element->setUserData(registration.key, registration.wrapper, nullptr);
+/// An element has left the processor's cache since it was wrapped, and is fetched again some bindings ahead.
+void Load::bindAll() {
+  auto ahead = bindings_.begin() + std::min<std::ptrdiff_t>(8, std::ssize(bindings_));
+  for (const Binding& binding : bindings_) {
+    if (ahead != bindings_.end())
+      __builtin_prefetch(ahead++->element);
+    binding.element->setUserData(binding.key, binding.wrapper, nullptr);
   }
-  for (const Outermost& outermost : outermostFamilies_)
-    outermost.unwrap(outermost.families);
 }
 
 JointLoad::JointLoad(const OrbBaseElement& outermost) :
-    load_(Load::running == nullptr ? std::make_unique<Load>(outermost, requiredElement(outermost).getFirstChild(), true)
-                                   : nullptr) {}
+    load_(Load::running == nullptr ? std::make_unique<Load>(outermost) : nullptr) {}
 JointLoad::~JointLoad() = default;
 
 void JointLoad::run() {
@@ -236,11 +217,10 @@ void JointLoad::run() {
 
 void bindUnder(const XMLCh* key, const OrbBaseElement& wrapper, void* typedWrapper) {
   DOMElement& element = requiredElement(wrapper);
-  if (Load::running != nullptr && Load::running->isDoomed())
-    return;
-  void* replaced = element.setUserData(key, typedWrapper, nullptr);
-  if (replaced != nullptr && Load::running != nullptr)
-    Load::running->note(element, key, replaced);
+  if (Load::running != nullptr)
+    Load::running->leaveBinding(element, key, typedWrapper);
+  else
+    element.setUserData(key, typedWrapper, nullptr);
 }
 
 void unbind(const OrbBaseElement& wrapper) {
@@ -260,7 +240,7 @@ void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFami
     Load::running->leaveChildren(parent, first, families, loaded);
     return;
   }
-  Load load(parent, first, true);
+  Load load(parent);
   load.leaveChildren(parent, first, families, loaded);
   load.run();
 }
@@ -268,7 +248,7 @@ void loadChildren(const OrbBaseElement& parent, void* families, const LoadedFami
 void loadChild(const OrbBaseElement& parent, DOMNode* node, void* families, const LoadedFamilies& loaded) {
   if (node == nullptr || node->getNodeType() != DOMNode::ELEMENT_NODE)
     return;
-  Load(parent, node, false).wrapOne(parent, static_cast<DOMElement&>(*node), families, loaded);
+  Load(parent).wrapOne(parent, static_cast<DOMElement&>(*node), families, loaded);
 }
 
 void requireElement(const OrbBaseElement& wrapper) { static_cast<void>(requiredElement(wrapper)); }
@@ -277,7 +257,7 @@ void refuseDeepContent(const OrbBaseElement& wrapper) {
   DOMElement& element = requiredElement(wrapper);
   if (Load::running != nullptr)
     Load::running->refuseDeepContent(element);
-  else if (liesTooDeep(element.getFirstChild(), true, 1))
+  else if (liesTooDeep(element.getFirstChild(), 1))
     raiseTooDeep(element);
 }
 

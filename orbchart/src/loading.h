@@ -15,7 +15,7 @@ inline constexpr unsigned int maximumNesting = 10'240;
 
 /// Registers a wrapper on its element under a key, by which references find it.
 ///
-/// A load that fails takes the registrations of its wrappers away and puts back what they stood in place of.
+/// While a load is running the registration waits for the end of it: a load that fails leaves no pointer in the DOM.
 void bindUnder(const XMLCh* key, const OrbBaseElement& wrapper, void* typedWrapper);
 
 /// Registers a wrapper under the name of its element. The pointer is kept as the concrete class's.
@@ -36,12 +36,13 @@ struct LoadedFamily {
   void (*unwrap)(void* families);
 };
 
-/// The families of a class as a load sees them, and how all their wrappers end.
+/// The families of a class as a load sees them.
 struct LoadedFamilies {
   const LoadedFamily* known;
   std::size_t count;
   Unknown unknown;
-  void (*unwrapAll)(void* families);
+  /// The name of a family that a load treats as unknown; null for none.
+  const XMLCh* refused = nullptr;
 };
 
 /// Wraps the child elements of an element, in document order, each in the family of its name.

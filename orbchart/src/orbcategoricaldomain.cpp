@@ -5,6 +5,9 @@
 #include "family.h"
 #include "orbcategories.h"
 #include "orbdomainreference.h"
+#include "orbformat.h"
+#include "orbsimplesort.h"
+#include "orbstatisticsort.h"
 #include "orbuni.h"
 #include "orbvariablereference.h"
 
@@ -18,11 +21,14 @@ constexpr Boolean date{OrbUni::_date};
 
 using Attributes = AttributeList<id, date>;
 
-// What the language has after them has no class here.
-using AfterCategories = FamilyList<>;
-using AfterReferences = Joined<FamilyList<OrbCategories>, AfterCategories>;
+// Either kind of sort is refused with the same words.
+constexpr OneAmong<OrbStatisticSort, OrbSimpleSort> oneSort{"StatisticSort", "CategoricalDomain"};
 
-using Families = ChildFamilies<FamilyList<OrbVariableReference, OrbDomainReference, OrbCategories>>;
+using Sorts = FamilyList<Limited<OrbStatisticSort, oneSort>, Limited<OrbSimpleSort, oneSort>>;
+using AfterCategories = Sorts;
+using AfterReferences = Joined<FamilyList<OrbCategories>, AfterCategories>;
+using AfterFormats = Joined<FamilyList<OrbVariableReference, OrbDomainReference>, AfterReferences>;
+using Families = ChildFamilies<Joined<FamilyList<OrbFormat>, AfterFormats>>;
 
 } // namespace
 
@@ -73,3 +79,19 @@ unsigned int OrbCategoricalDomain::removeDomainReferences() { return children_->
 OrbCategories* OrbCategoricalDomain::addCategories() { return children_->add<OrbCategories>(*this, AfterCategories{}); }
 std::vector<OrbCategories*> OrbCategoricalDomain::getCategoriess() const { return children_->all<OrbCategories>(); }
 unsigned int OrbCategoricalDomain::removeCategoriess() { return children_->removeAll<OrbCategories>(*this); }
+
+OrbStatisticSort* OrbCategoricalDomain::addStatisticSort(const CTVariableType& sourceVariable) {
+  return children_->add<OrbStatisticSort>(*this, atEnd, sourceVariable);
+}
+std::vector<OrbStatisticSort*> OrbCategoricalDomain::getStatisticSorts() const {
+  return children_->all<OrbStatisticSort>();
+}
+unsigned int OrbCategoricalDomain::removeStatisticSorts() { return children_->removeAll<OrbStatisticSort>(*this); }
+
+OrbSimpleSort* OrbCategoricalDomain::addSimpleSort() { return children_->add<OrbSimpleSort>(*this, atEnd); }
+std::vector<OrbSimpleSort*> OrbCategoricalDomain::getSimpleSorts() const { return children_->all<OrbSimpleSort>(); }
+unsigned int OrbCategoricalDomain::removeSimpleSorts() { return children_->removeAll<OrbSimpleSort>(*this); }
+
+OrbFormat* OrbCategoricalDomain::addFormat() { return children_->add<OrbFormat>(*this, AfterFormats{}); }
+std::vector<OrbFormat*> OrbCategoricalDomain::getFormats() const { return children_->all<OrbFormat>(); }
+unsigned int OrbCategoricalDomain::removeFormats() { return children_->removeAll<OrbFormat>(*this); }

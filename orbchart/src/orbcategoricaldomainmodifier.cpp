@@ -8,6 +8,8 @@
 #include "orbdomainintersect.h"
 #include "orbdomainreplace.h"
 #include "orbdomainunion.h"
+#include "orbsimplesort.h"
+#include "orbstatisticsort.h"
 #include "orbuni.h"
 
 using namespace orbchart;
@@ -26,7 +28,8 @@ constexpr Keywords dateType{OrbCategoricalDomainModifier::_UTF_dateType,
 
 using Attributes = AttributeList<id, dateType>;
 
-using Families = ChildFamilies<FamilyList<OrbDomainReplace, OrbDomainUnion, OrbDomainIntersect, OrbDomainExclude>>;
+using Families = ChildFamilies<FamilyList<OrbDomainReplace, OrbDomainUnion, OrbDomainIntersect, OrbDomainExclude,
+                                          OrbSimpleSort, OrbStatisticSort>>;
 
 } // namespace
 
@@ -89,4 +92,20 @@ std::vector<OrbDomainExclude*> OrbCategoricalDomainModifier::getDomainExcludes()
 }
 unsigned int OrbCategoricalDomainModifier::removeDomainExcludes() {
   return children_->removeAll<OrbDomainExclude>(*this);
+}
+
+OrbSimpleSort* OrbCategoricalDomainModifier::addSimpleSort() { return children_->add<OrbSimpleSort>(*this, atEnd); }
+std::vector<OrbSimpleSort*> OrbCategoricalDomainModifier::getSimpleSorts() const {
+  return children_->all<OrbSimpleSort>();
+}
+unsigned int OrbCategoricalDomainModifier::removeSimpleSorts() { return children_->removeAll<OrbSimpleSort>(*this); }
+
+OrbStatisticSort* OrbCategoricalDomainModifier::addStatisticSort() {
+  return children_->add<OrbStatisticSort>(*this, atEnd);
+}
+std::vector<OrbStatisticSort*> OrbCategoricalDomainModifier::getStatisticSorts() const {
+  return children_->all<OrbStatisticSort>();
+}
+unsigned int OrbCategoricalDomainModifier::removeStatisticSorts() {
+  return children_->removeAll<OrbStatisticSort>(*this);
 }

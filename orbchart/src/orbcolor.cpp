@@ -2,9 +2,12 @@
 #include "orbcolor.h"
 
 #include "attribute.h"
+#include "family.h"
 #include "keyword.h"
-#include "loading.h"
+#include "orbcolormapping.h"
+#include "orbstylecycle.h"
 #include "orbuni.h"
+#include "reference.h"
 
 using namespace orbchart;
 
@@ -21,7 +24,7 @@ constexpr Keywords affect{OrbUni::_affect,
                           }};
 constexpr Text low{OrbUni::_low};
 constexpr Text high{OrbUni::_high};
-constexpr Text cycle{OrbUni::_cycle};
+constexpr Reference<OrbStyleCycle> cycle{OrbUni::_cycle};
 constexpr Text missing{OrbColor::_UTF_missing};
 constexpr Keywords scale{OrbUni::_scale,
                          OrbColor::scale_unset,
@@ -39,13 +42,20 @@ constexpr Keywords scale{OrbUni::_scale,
 
 using Attributes = AttributeList<affect, low, high, cycle, missing, scale>;
 
+using Families = ChildFamilies<FamilyList<OrbColorMapping>, Unknown::passes>;
+
 } // namespace
 
 template <> const ElementDescription& orbchart::descriptionOf<OrbColor>() {
-  return elementDescription<OrbColor, DerivedFrom<CTAesthetic>, Attributes>;
+  return elementDescription<OrbColor, DerivedFrom<CTAesthetic>, Attributes, Families>;
 }
 
-OrbColor::OrbColor(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
+struct OrbColor::Children : Families {};
+
+OrbColor::OrbColor(xercesc::DOMElement* element) : CTAesthetic(element), children_(new Children) {
+  children_->load(*this);
+  bind(*this);
+}
 OrbColor::~OrbColor() = default;
 
 OrbColor::ENUM_affect OrbColor::getAffect() const { return affect.get(*this); }
@@ -62,6 +72,8 @@ void OrbColor::setHigh(const XMLCh* value) { high.set(*this, value); }
 bool OrbColor::isHighPresent() const { return high.isPresent(*this); }
 void OrbColor::removeHigh() { high.remove(*this); }
 
+OrbStyleCycle* OrbColor::getCycle() const { return cycle.get(*this); }
+void OrbColor::setCycle(const OrbStyleCycle& target) { cycle.set(*this, target); }
 bool OrbColor::isCyclePresent() const { return cycle.isPresent(*this); }
 void OrbColor::removeCycle() { cycle.remove(*this); }
 
@@ -74,3 +86,7 @@ OrbColor::ENUM_scale OrbColor::getScaleAttribute() const { return scale.get(*thi
 void OrbColor::setScaleAttribute(ENUM_scale value) { scale.set(*this, value); }
 bool OrbColor::isScaleAttributePresent() const { return scale.isPresent(*this); }
 void OrbColor::removeScaleAttribute() { scale.remove(*this); }
+
+OrbColorMapping* OrbColor::addColorMapping() { return children_->add<OrbColorMapping>(*this, atEnd); }
+std::vector<OrbColorMapping*> OrbColor::getColorMappings() const { return children_->all<OrbColorMapping>(); }
+unsigned int OrbColor::removeColorMappings() { return children_->removeAll<OrbColorMapping>(*this); }

@@ -2,8 +2,9 @@
 #include "orbcolorcomponent.h"
 
 #include "attribute.h"
+#include "family.h"
 #include "keyword.h"
-#include "loading.h"
+#include "orbdoublemapping.h"
 #include "orbuni.h"
 
 using namespace orbchart;
@@ -32,13 +33,20 @@ constexpr Double missing{OrbColorComponent::_UTF_missing};
 
 using Attributes = AttributeList<type, affect, low, high, missing>;
 
+using Families = ChildFamilies<FamilyList<OrbDoubleMapping>, Unknown::passes>;
+
 } // namespace
 
 template <> const ElementDescription& orbchart::descriptionOf<OrbColorComponent>() {
-  return elementDescription<OrbColorComponent, DerivedFrom<CTAesthetic>, Attributes>;
+  return elementDescription<OrbColorComponent, DerivedFrom<CTAesthetic>, Attributes, Families>;
 }
 
-OrbColorComponent::OrbColorComponent(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
+struct OrbColorComponent::Children : Families {};
+
+OrbColorComponent::OrbColorComponent(xercesc::DOMElement* element) : CTAesthetic(element), children_(new Children) {
+  children_->load(*this);
+  bind(*this);
+}
 OrbColorComponent::~OrbColorComponent() = default;
 
 OrbColorComponent::ENUM_type OrbColorComponent::getType() const { return type.get(*this); }
@@ -62,3 +70,9 @@ double OrbColorComponent::getMissing() const { return missing.get(*this); }
 void OrbColorComponent::setMissing(double value) { missing.set(*this, value); }
 bool OrbColorComponent::isMissingPresent() const { return missing.isPresent(*this); }
 void OrbColorComponent::removeMissing() { missing.remove(*this); }
+
+OrbDoubleMapping* OrbColorComponent::addDoubleMapping() { return children_->add<OrbDoubleMapping>(*this, atEnd); }
+std::vector<OrbDoubleMapping*> OrbColorComponent::getDoubleMappings() const {
+  return children_->all<OrbDoubleMapping>();
+}
+unsigned int OrbColorComponent::removeDoubleMappings() { return children_->removeAll<OrbDoubleMapping>(*this); }

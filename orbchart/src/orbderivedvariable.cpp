@@ -2,8 +2,9 @@
 #include "orbderivedvariable.h"
 
 #include "attribute.h"
-#include "loading.h"
+#include "family.h"
 #include "orbuni.h"
+#include "orbvaluemapentry.h"
 
 using namespace orbchart;
 using xercesc::DOMElement;
@@ -15,15 +16,22 @@ constexpr Text language{OrbDerivedVariable::_UTF_language};
 
 using Attributes = AttributeList<value, language>;
 
+using Families = ChildFamilies<FamilyList<OrbValueMapEntry>, Unknown::passes>;
+
 } // namespace
 
 template <> const ElementDescription& orbchart::descriptionOf<OrbDerivedVariable>() {
-  return elementDescription<OrbDerivedVariable, DerivedFrom<CTVariableType>, Attributes>;
+  return elementDescription<OrbDerivedVariable, DerivedFrom<CTVariableType>, Attributes, Families>;
 }
 
-OrbDerivedVariable::OrbDerivedVariable(DOMElement* element) : CTVariableType(element) { bind(*this); }
-OrbDerivedVariable::OrbDerivedVariable(DOMElement* element, const XMLCh* id) : CTVariableType(element, id) {
+struct OrbDerivedVariable::Children : Families {};
+
+OrbDerivedVariable::OrbDerivedVariable(DOMElement* element) : CTVariableType(element), children_(new Children) {
+  children_->load(*this);
   bind(*this);
+}
+OrbDerivedVariable::OrbDerivedVariable(DOMElement* element, const XMLCh* id) : OrbDerivedVariable(element) {
+  setId(id);
 }
 OrbDerivedVariable::~OrbDerivedVariable() = default;
 
@@ -35,3 +43,13 @@ const XMLCh* OrbDerivedVariable::getLanguage() const { return language.get(*this
 void OrbDerivedVariable::setLanguage(const XMLCh* value) { language.set(*this, value); }
 bool OrbDerivedVariable::isLanguagePresent() const { return language.isPresent(*this); }
 void OrbDerivedVariable::removeLanguage() { language.remove(*this); }
+
+OrbValueMapEntry* OrbDerivedVariable::addValueMapEntry() { return children_->add<OrbValueMapEntry>(*this, atEnd); }
+std::vector<OrbValueMapEntry*> OrbDerivedVariable::getValueMapEntrys() const {
+  return children_->all<OrbValueMapEntry>();
+}
+// The elements stay, and nothing is counted.
+unsigned int OrbDerivedVariable::removeValueMapEntrys() {
+  children_->forget<OrbValueMapEntry>();
+  return 0;
+}

@@ -4,6 +4,7 @@
 #include "attribute.h"
 #include "family.h"
 #include "modifierreference.h"
+#include "orbaxis.h"
 #include "orbcategoricaldomain.h"
 #include "orbintervaldomain.h"
 #include "orbuni.h"
@@ -29,12 +30,12 @@ constexpr ModifierReference domainModifier{OrbDimension::_UTF_domainModifier};
 using Attributes = AttributeList<id, domain, unionDomain, niceUpperMapping, niceLowerMapping, upperMargin, lowerMargin,
                                  clusterVariable, clusterGap, facetsShareScale, domainModifier>;
 
-// What the language has after them has no class here.
-using AfterScales = FamilyList<>;
-
 constexpr OnlyOne oneScale{"Scale", "Dimension"};
+constexpr AtMost twoAxes{2, "Dimension can have at most 2 axis children."};
 
-using Families = ChildFamilies<FamilyList<StripsIds<Limited<OrbScale, oneScale>>>>;
+using AfterScales = FamilyList<OrbAxis>;
+using Families =
+    ChildFamilies<FamilyList<StripsIds<Limited<OrbScale, oneScale>>, StripsIds<Limited<OrbAxis, twoAxes>>>>;
 
 } // namespace
 
@@ -102,3 +103,8 @@ OrbScale* OrbDimension::addScale(OrbScale::ENUM_method method) {
 }
 OrbScale* OrbDimension::getScale() const { return children_->first<OrbScale>(); }
 unsigned int OrbDimension::removeScales() { return children_->removeAll<OrbScale>(*this); }
+
+OrbAxis* OrbDimension::addAxis() { return children_->add<OrbAxis>(*this, atEnd); }
+std::vector<OrbAxis*> OrbDimension::getAxiss() const { return children_->all<OrbAxis>(); }
+unsigned int OrbDimension::removeAxiss() { return children_->removeAll<OrbAxis>(*this); }
+bool OrbDimension::removeAxis(unsigned int index) { return children_->removeAt<OrbAxis>(*this, index); }

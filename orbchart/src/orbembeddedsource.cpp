@@ -2,6 +2,8 @@
 #include "orbembeddedsource.h"
 
 #include "attribute.h"
+#include "orblabelcolumns.h"
+#include "orblabels.h"
 #include "orbnames.h"
 #include "orbrow.h"
 #include "orbtypes.h"
@@ -19,18 +21,21 @@ constexpr Boolean filterToMissing{OrbEmbeddedSource::_UTF_filterToMissing};
 
 using Attributes = AttributeList<id, missing, filterToMissing>;
 
-using AfterTypes = FamilyList<OrbRow>;
+using AfterLabels = FamilyList<OrbLabelColumns>;
+using AfterTypes = Joined<FamilyList<OrbRow, OrbLabels>, AfterLabels>;
 // A row is a follower of rows: it goes before the one whose wrapper is first.
 using AfterRows = AfterTypes;
 using AfterNames = Joined<FamilyList<OrbTypes>, AfterTypes>;
+// Filters and aggregates do not look at labels.
 using AfterFilters = FamilyList<OrbNames, OrbTypes, OrbRow>;
 using AfterAggregates = Joined<FamilyList<OrbFilter>, AfterFilters>;
 
 constexpr OnlyOne oneNames{"Names", "EmbeddedSource"};
 constexpr OnlyOne oneTypes{"Types", "EmbeddedSource"};
 
-using Families = ChildFamilies<FamilyList<OrbAggregate, OrbFilter, Limited<OrbNames, oneNames>,
-                                          Limited<OrbTypes, oneTypes>, OrbRow, OrbDataReduction>>;
+using Families =
+    ChildFamilies<FamilyList<OrbAggregate, OrbFilter, Limited<OrbNames, oneNames>, Limited<OrbTypes, oneTypes>, OrbRow,
+                             OrbDataReduction, OrbLabels, OrbLabelColumns>>;
 
 } // namespace
 
@@ -86,3 +91,11 @@ std::vector<OrbDataReduction*> OrbEmbeddedSource::getDataReductions() const {
   return children_->all<OrbDataReduction>();
 }
 unsigned int OrbEmbeddedSource::removeDataReductions() { return children_->removeAll<OrbDataReduction>(*this); }
+
+OrbLabels* OrbEmbeddedSource::addLabels() { return children_->add<OrbLabels>(*this, AfterLabels{}); }
+std::vector<OrbLabels*> OrbEmbeddedSource::getLabelss() const { return children_->all<OrbLabels>(); }
+unsigned int OrbEmbeddedSource::removeLabelss() { return children_->removeAll<OrbLabels>(*this); }
+
+OrbLabelColumns* OrbEmbeddedSource::addLabelColumns() { return children_->add<OrbLabelColumns>(*this, atEnd); }
+std::vector<OrbLabelColumns*> OrbEmbeddedSource::getLabelColumnss() const { return children_->all<OrbLabelColumns>(); }
+unsigned int OrbEmbeddedSource::removeLabelColumnss() { return children_->removeAll<OrbLabelColumns>(*this); }

@@ -6,11 +6,25 @@
 #include "orbaggregatestatistic.h"
 #include "orbattach.h"
 #include "orbbinstatistic.h"
+#include "orbclusteringstatistic.h"
 #include "orbcollectrowsstatistic.h"
+#include "orbdistributionstatistic.h"
 #include "orbevaluatestatistic.h"
+#include "orbfixedwindowdensitystatistic.h"
+#include "orbgraphlayoutstatistic.h"
 #include "orblayer.h"
+#include "orblinkstatistic.h"
+#include "orbmapstatistic.h"
+#include "orbnearestneighbordensitystatistic.h"
+#include "orbpatternlinkstatistic.h"
+#include "orbregionstatistic.h"
 #include "orbreplicate.h"
+#include "orbsmoothstatistic.h"
+#include "orbsomstatistic.h"
 #include "orbsummarystatistic.h"
+#include "orbtagcloudstatistic.h"
+#include "orbtreelayoutstatistic.h"
+#include "orbtukeystatistic.h"
 #include "orbuni.h"
 #include "orbwhen.h"
 
@@ -24,9 +38,13 @@ constexpr Boolean augmentEmptyCells{OrbFaceting::_UTF_augmentEmptyCells};
 
 using Attributes = AttributeList<id, method, augmentEmptyCells>;
 
-// The families by band, in document order. A new family takes its place in its band.
-using Statistics = FamilyList<OrbAttach, OrbBinStatistic, OrbAggregateStatistic, OrbCollectRowsStatistic, OrbReplicate,
-                              OrbEvaluateStatistic, OrbSummaryStatistic, OrbWhen>;
+// The families by band, in document order.
+using Statistics =
+    FamilyList<OrbAttach, OrbBinStatistic, OrbAggregateStatistic, OrbCollectRowsStatistic, OrbReplicate,
+               OrbDistributionStatistic, OrbGraphLayoutStatistic, OrbLinkStatistic, OrbMapStatistic, OrbRegionStatistic,
+               OrbSmoothStatistic, OrbEvaluateStatistic, OrbFixedWindowDensityStatistic,
+               OrbNearestNeighborDensityStatistic, OrbSummaryStatistic, OrbTagCloudStatistic, OrbTreeLayoutStatistic,
+               OrbClusteringStatistic, OrbSOMStatistic, OrbTukeyStatistic, OrbWhen, OrbPatternLinkStatistic>;
 using Algebra = Joined<AlgebraOperands, FamilyList<OrbLayer>>;
 
 using AfterStatistics = Algebra;
@@ -88,6 +106,48 @@ OrbReplicate* OrbFaceting::addReplicate() { return children_->add<OrbReplicate>(
 std::vector<OrbReplicate*> OrbFaceting::getReplicates() const { return children_->all<OrbReplicate>(); }
 unsigned int OrbFaceting::removeReplicates() { return children_->removeAll<OrbReplicate>(*this); }
 
+OrbDistributionStatistic* OrbFaceting::addDistributionStatistic() {
+  return children_->add<OrbDistributionStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbDistributionStatistic*> OrbFaceting::getDistributionStatistics() const {
+  return children_->all<OrbDistributionStatistic>();
+}
+unsigned int OrbFaceting::removeDistributionStatistics() {
+  return children_->removeAll<OrbDistributionStatistic>(*this);
+}
+
+OrbGraphLayoutStatistic* OrbFaceting::addGraphLayoutStatistic() {
+  return children_->add<OrbGraphLayoutStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbGraphLayoutStatistic*> OrbFaceting::getGraphLayoutStatistics() const {
+  return children_->all<OrbGraphLayoutStatistic>();
+}
+unsigned int OrbFaceting::removeGraphLayoutStatistics() { return children_->removeAll<OrbGraphLayoutStatistic>(*this); }
+
+OrbLinkStatistic* OrbFaceting::addLinkStatistic() { return children_->add<OrbLinkStatistic>(*this, AfterStatistics{}); }
+std::vector<OrbLinkStatistic*> OrbFaceting::getLinkStatistics() const { return children_->all<OrbLinkStatistic>(); }
+unsigned int OrbFaceting::removeLinkStatistics() { return children_->removeAll<OrbLinkStatistic>(*this); }
+
+OrbMapStatistic* OrbFaceting::addMapStatistic() { return children_->add<OrbMapStatistic>(*this, AfterStatistics{}); }
+std::vector<OrbMapStatistic*> OrbFaceting::getMapStatistics() const { return children_->all<OrbMapStatistic>(); }
+unsigned int OrbFaceting::removeMapStatistics() { return children_->removeAll<OrbMapStatistic>(*this); }
+
+OrbRegionStatistic* OrbFaceting::addRegionStatistic() {
+  return children_->add<OrbRegionStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbRegionStatistic*> OrbFaceting::getRegionStatistics() const {
+  return children_->all<OrbRegionStatistic>();
+}
+unsigned int OrbFaceting::removeRegionStatistics() { return children_->removeAll<OrbRegionStatistic>(*this); }
+
+OrbSmoothStatistic* OrbFaceting::addSmoothStatistic() {
+  return children_->add<OrbSmoothStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbSmoothStatistic*> OrbFaceting::getSmoothStatistics() const {
+  return children_->all<OrbSmoothStatistic>();
+}
+unsigned int OrbFaceting::removeSmoothStatistics() { return children_->removeAll<OrbSmoothStatistic>(*this); }
+
 OrbEvaluateStatistic* OrbFaceting::addEvaluateStatistic() {
   return children_->add<OrbEvaluateStatistic>(*this, AfterStatistics{});
 }
@@ -95,6 +155,26 @@ std::vector<OrbEvaluateStatistic*> OrbFaceting::getEvaluateStatistics() const {
   return children_->all<OrbEvaluateStatistic>();
 }
 unsigned int OrbFaceting::removeEvaluateStatistics() { return children_->removeAll<OrbEvaluateStatistic>(*this); }
+
+OrbFixedWindowDensityStatistic* OrbFaceting::addFixedWindowDensityStatistic() {
+  return children_->add<OrbFixedWindowDensityStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbFixedWindowDensityStatistic*> OrbFaceting::getFixedWindowDensityStatistics() const {
+  return children_->all<OrbFixedWindowDensityStatistic>();
+}
+unsigned int OrbFaceting::removeFixedWindowDensityStatistics() {
+  return children_->removeAll<OrbFixedWindowDensityStatistic>(*this);
+}
+
+OrbNearestNeighborDensityStatistic* OrbFaceting::addNearestNeighborDensityStatistic() {
+  return children_->add<OrbNearestNeighborDensityStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbNearestNeighborDensityStatistic*> OrbFaceting::getNearestNeighborDensityStatistics() const {
+  return children_->all<OrbNearestNeighborDensityStatistic>();
+}
+unsigned int OrbFaceting::removeNearestNeighborDensityStatistics() {
+  return children_->removeAll<OrbNearestNeighborDensityStatistic>(*this);
+}
 
 OrbSummaryStatistic* OrbFaceting::addSummaryStatistic() {
   return children_->add<OrbSummaryStatistic>(*this, AfterStatistics{});
@@ -104,9 +184,51 @@ std::vector<OrbSummaryStatistic*> OrbFaceting::getSummaryStatistics() const {
 }
 unsigned int OrbFaceting::removeSummaryStatistics() { return children_->removeAll<OrbSummaryStatistic>(*this); }
 
+OrbTagCloudStatistic* OrbFaceting::addTagCloudStatistic() {
+  return children_->add<OrbTagCloudStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbTagCloudStatistic*> OrbFaceting::getTagCloudStatistics() const {
+  return children_->all<OrbTagCloudStatistic>();
+}
+unsigned int OrbFaceting::removeTagCloudStatistics() { return children_->removeAll<OrbTagCloudStatistic>(*this); }
+
+OrbTreeLayoutStatistic* OrbFaceting::addTreeLayoutStatistic() {
+  return children_->add<OrbTreeLayoutStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbTreeLayoutStatistic*> OrbFaceting::getTreeLayoutStatistics() const {
+  return children_->all<OrbTreeLayoutStatistic>();
+}
+unsigned int OrbFaceting::removeTreeLayoutStatistics() { return children_->removeAll<OrbTreeLayoutStatistic>(*this); }
+
+OrbClusteringStatistic* OrbFaceting::addClusteringStatistic() {
+  return children_->add<OrbClusteringStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbClusteringStatistic*> OrbFaceting::getClusteringStatistics() const {
+  return children_->all<OrbClusteringStatistic>();
+}
+unsigned int OrbFaceting::removeClusteringStatistics() { return children_->removeAll<OrbClusteringStatistic>(*this); }
+
+OrbSOMStatistic* OrbFaceting::addSOMStatistic() { return children_->add<OrbSOMStatistic>(*this, AfterStatistics{}); }
+std::vector<OrbSOMStatistic*> OrbFaceting::getSOMStatistics() const { return children_->all<OrbSOMStatistic>(); }
+unsigned int OrbFaceting::removeSOMStatistics() { return children_->removeAll<OrbSOMStatistic>(*this); }
+
+OrbTukeyStatistic* OrbFaceting::addTukeyStatistic() {
+  return children_->add<OrbTukeyStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbTukeyStatistic*> OrbFaceting::getTukeyStatistics() const { return children_->all<OrbTukeyStatistic>(); }
+unsigned int OrbFaceting::removeTukeyStatistics() { return children_->removeAll<OrbTukeyStatistic>(*this); }
+
 OrbWhen* OrbFaceting::addWhen() { return children_->add<OrbWhen>(*this, AfterStatistics{}); }
 std::vector<OrbWhen*> OrbFaceting::getWhens() const { return children_->all<OrbWhen>(); }
 unsigned int OrbFaceting::removeWhens() { return children_->removeAll<OrbWhen>(*this); }
+
+OrbPatternLinkStatistic* OrbFaceting::addPatternLinkStatistic() {
+  return children_->add<OrbPatternLinkStatistic>(*this, AfterStatistics{});
+}
+std::vector<OrbPatternLinkStatistic*> OrbFaceting::getPatternLinkStatistics() const {
+  return children_->all<OrbPatternLinkStatistic>();
+}
+unsigned int OrbFaceting::removePatternLinkStatistics() { return children_->removeAll<OrbPatternLinkStatistic>(*this); }
 
 OrbVariableReference* OrbFaceting::addVariableReference() { return children_->add<OrbVariableReference>(*this, atEnd); }
 std::vector<OrbVariableReference*> OrbFaceting::getVariableReferences() const {

@@ -3,6 +3,7 @@
 
 #include "attribute.h"
 #include "family.h"
+#include "orbfootnotemapping.h"
 
 using namespace orbchart;
 using xercesc::DOMElement;
@@ -14,7 +15,7 @@ constexpr Boolean superscript{OrbFootnotes::_UTF_superscript};
 
 using Attributes = AttributeList<index, superscript>;
 
-using Families = ChildFamilies<FamilyList<>>;
+using Families = ChildFamilies<FamilyList<OrbFootnoteMapping>>;
 
 } // namespace
 
@@ -39,3 +40,9 @@ bool OrbFootnotes::getSuperscript() const { return superscript.get(*this); }
 void OrbFootnotes::setSuperscript(bool value) { superscript.set(*this, value); }
 bool OrbFootnotes::isSuperscriptPresent() const { return superscript.isPresent(*this); }
 void OrbFootnotes::removeSuperscript() { superscript.remove(*this); }
+
+OrbFootnoteMapping* OrbFootnotes::addFootnoteMapping() { return children_->add<OrbFootnoteMapping>(*this, atEnd); }
+std::vector<OrbFootnoteMapping*> OrbFootnotes::getFootnoteMappings() const {
+  return children_->all<OrbFootnoteMapping>();
+}
+unsigned int OrbFootnotes::removeFootnoteMappings() { return children_->removeAll<OrbFootnoteMapping>(*this); }

@@ -2,13 +2,14 @@
 #include "orbformatting.h"
 
 #include "family.h"
+#include "orbformatmapping.h"
 
 using namespace orbchart;
 using xercesc::DOMElement;
 
 namespace {
 
-using Families = ChildFamilies<FamilyList<>>;
+using Families = ChildFamilies<FamilyList<OrbFormatMapping>>;
 
 } // namespace
 
@@ -23,3 +24,7 @@ OrbFormatting::OrbFormatting(DOMElement* element) : CTAesthetic(element, Without
   bind(*this);
 }
 OrbFormatting::~OrbFormatting() = default;
+
+OrbFormatMapping* OrbFormatting::addFormatMapping() { return children_->add<OrbFormatMapping>(*this, atEnd); }
+std::vector<OrbFormatMapping*> OrbFormatting::getFormatMappings() const { return children_->all<OrbFormatMapping>(); }
+unsigned int OrbFormatting::removeFormatMappings() { return children_->removeAll<OrbFormatMapping>(*this); }

@@ -7,12 +7,20 @@
 #include "orbcoordinates.h"
 #include "orbdimension.h"
 #include "orbedge.h"
+#include "orbextension.h"
 #include "orbfaceting.h"
+#include "orbfacetlayout.h"
+#include "orbframeguide.h"
+#include "orbfunctionguide.h"
 #include "orbinterval.h"
 #include "orbline.h"
+#include "orblineguide.h"
 #include "orbpath.h"
+#include "orbplaneguide.h"
 #include "orbpoint.h"
+#include "orbpointguide.h"
 #include "orbpolygon.h"
+#include "orbrectangleguide.h"
 #include "orbschema.h"
 #include "orbstyle.h"
 #include "orbuni.h"
@@ -35,20 +43,21 @@ using Attributes =
     AttributeList<id, cellStyle, style, clip, alignCellHorizontallyWith, alignCellVerticallyWith, axesOutside>;
 
 constexpr OnlyOne oneFaceting{"Faceting", "Graph"};
+constexpr OnlyOne oneFacetLayout{"FacetLayout", "Graph"};
 
-// The families by band, in document order; a band of the language without a class here is empty and keeps its place. A
-// new family goes into its band, and with it into the record, the loader and the followers of the bands before it.
-using Extensions = FamilyList<>;
-using Locations = FamilyList<>;
+// The families by band, in document order.
+using Extensions = FamilyList<OrbExtension>;
+using Locations = FamilyList<StripsIds<OrbLocation>>;
 using CoordinateSystems = FamilyList<StripsIds<OrbCoordinates>>;
 using Facetings = FamilyList<StripsIds<Limited<OrbFaceting, oneFaceting>>>;
-using FacetLayouts = FamilyList<>;
+using FacetLayouts = FamilyList<StripsIds<Limited<OrbFacetLayout, oneFacetLayout>>>;
 using Elements = FamilyList<StripsIds<OrbArea>, StripsIds<OrbInterval>, StripsIds<OrbLine>, StripsIds<OrbEdge>,
                             StripsIds<OrbPath>, StripsIds<OrbPoint>, StripsIds<OrbPolygon>, StripsIds<OrbSchema>>;
-using Guides = FamilyList<>;
+// The ids of removed rectangle guides stay.
+using Guides = FamilyList<StripsIds<OrbFrameGuide>, StripsIds<OrbFunctionGuide>, OrbRectangleGuide,
+                          StripsIds<OrbLineGuide>, StripsIds<OrbPlaneGuide>, StripsIds<OrbPointGuide>>;
 
-using AfterGuides = FamilyList<>;
-using AfterElements = Joined<Guides, AfterGuides>;
+using AfterElements = Guides;
 using AfterFacetLayouts = Joined<Elements, AfterElements>;
 using AfterFacetings = Joined<FacetLayouts, AfterFacetLayouts>;
 using AfterCoordinateSystems = Joined<Facetings, AfterFacetings>;
@@ -116,6 +125,25 @@ bool OrbGraph::getAxesOutside() const { return axesOutside.get(*this); }
 void OrbGraph::setAxesOutside(bool value) { axesOutside.set(*this, value); }
 void OrbGraph::removeAxesOutside() { axesOutside.remove(*this); }
 
+OrbExtension* OrbGraph::addExtension() { return children_->add<OrbExtension>(*this, AfterExtensions{}); }
+OrbExtension* OrbGraph::getExtension() const { return children_->first<OrbExtension>(); }
+unsigned int OrbGraph::removeExtensions() { return children_->removeAll<OrbExtension>(*this); }
+
+OrbLocation* OrbGraph::addLocation(OrbLocation::ENUM_part part) {
+  return children_->add<OrbLocation>(*this, AfterLocations{}, part);
+}
+std::vector<OrbLocation*> OrbGraph::getLocations() const { return children_->all<OrbLocation>(); }
+unsigned int OrbGraph::removeLocations() { return children_->removeAll<OrbLocation>(*this); }
+unsigned int OrbGraph::removeLocation(OrbLocation::ENUM_part part) {
+  unsigned int count = 0;
+  // The index moves on after a removal as well: what follows a removed location is passed over.
+  for (std::size_t index = 0; index < children_->count<OrbLocation>(); ++index) {
+    if (children_->at<OrbLocation>(index)->getPart() == part && children_->removeAt<OrbLocation>(*this, index, true))
+      ++count;
+  }
+  return count;
+}
+
 OrbCoordinates* OrbGraph::addCoordinates(const XMLCh* id) {
   return children_->add<OrbCoordinates>(*this, AfterCoordinateSystems{}, id);
 }
@@ -126,6 +154,10 @@ unsigned int OrbGraph::removeCoordinatess() { return children_->removeAll<OrbCoo
 OrbFaceting* OrbGraph::addFaceting() { return children_->add<OrbFaceting>(*this, AfterFacetings{}); }
 OrbFaceting* OrbGraph::getFaceting() const { return children_->first<OrbFaceting>(); }
 unsigned int OrbGraph::removeFacetings() { return children_->removeAll<OrbFaceting>(*this); }
+
+OrbFacetLayout* OrbGraph::addFacetLayout() { return children_->add<OrbFacetLayout>(*this, AfterFacetLayouts{}); }
+OrbFacetLayout* OrbGraph::getFacetLayout() const { return children_->first<OrbFacetLayout>(); }
+unsigned int OrbGraph::removeFacetLayouts() { return children_->removeAll<OrbFacetLayout>(*this); }
 
 OrbArea* OrbGraph::addArea(const XMLCh* id) { return children_->add<OrbArea>(*this, AfterElements{}, id); }
 std::vector<OrbArea*> OrbGraph::getAreas() const { return children_->all<OrbArea>(); }
@@ -159,6 +191,30 @@ unsigned int OrbGraph::removePolygons() { return children_->removeAll<OrbPolygon
 OrbSchema* OrbGraph::addSchema(const XMLCh* id) { return children_->add<OrbSchema>(*this, AfterElements{}, id); }
 std::vector<OrbSchema*> OrbGraph::getSchemas() const { return children_->all<OrbSchema>(); }
 unsigned int OrbGraph::removeSchemas() { return children_->removeAll<OrbSchema>(*this); }
+
+OrbFrameGuide* OrbGraph::addFrameGuide() { return children_->add<OrbFrameGuide>(*this, atEnd); }
+std::vector<OrbFrameGuide*> OrbGraph::getFrameGuides() const { return children_->all<OrbFrameGuide>(); }
+unsigned int OrbGraph::removeFrameGuides() { return children_->removeAll<OrbFrameGuide>(*this); }
+
+OrbFunctionGuide* OrbGraph::addFunctionGuide() { return children_->add<OrbFunctionGuide>(*this, atEnd); }
+std::vector<OrbFunctionGuide*> OrbGraph::getFunctionGuides() const { return children_->all<OrbFunctionGuide>(); }
+unsigned int OrbGraph::removeFunctionGuides() { return children_->removeAll<OrbFunctionGuide>(*this); }
+
+OrbRectangleGuide* OrbGraph::addRectangleGuide() { return children_->add<OrbRectangleGuide>(*this, atEnd); }
+std::vector<OrbRectangleGuide*> OrbGraph::getRectangleGuides() const { return children_->all<OrbRectangleGuide>(); }
+unsigned int OrbGraph::removeRectangleGuides() { return children_->removeAll<OrbRectangleGuide>(*this); }
+
+OrbLineGuide* OrbGraph::addLineGuide() { return children_->add<OrbLineGuide>(*this, atEnd); }
+std::vector<OrbLineGuide*> OrbGraph::getLineGuides() const { return children_->all<OrbLineGuide>(); }
+unsigned int OrbGraph::removeLineGuides() { return children_->removeAll<OrbLineGuide>(*this); }
+
+OrbPlaneGuide* OrbGraph::addPlaneGuide() { return children_->add<OrbPlaneGuide>(*this, atEnd); }
+std::vector<OrbPlaneGuide*> OrbGraph::getPlaneGuides() const { return children_->all<OrbPlaneGuide>(); }
+unsigned int OrbGraph::removePlaneGuides() { return children_->removeAll<OrbPlaneGuide>(*this); }
+
+OrbPointGuide* OrbGraph::addPointGuide() { return children_->add<OrbPointGuide>(*this, atEnd); }
+std::vector<OrbPointGuide*> OrbGraph::getPointGuides() const { return children_->all<OrbPointGuide>(); }
+unsigned int OrbGraph::removePointGuides() { return children_->removeAll<OrbPointGuide>(*this); }
 
 bool OrbGraph::removeElement(CTElementType& element) {
   return children_->removeAmong<OrbPoint, OrbInterval, OrbLine, OrbArea, OrbSchema, OrbPath, OrbPolygon>(*this,

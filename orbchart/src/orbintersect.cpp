@@ -3,6 +3,7 @@
 
 #include "attribute.h"
 #include "family.h"
+#include "orbalternating.h"
 #include "orbintersectwhere.h"
 #include "orbuni.h"
 #include "orbwhere.h"
@@ -15,7 +16,7 @@ constexpr Id id;
 
 using Attributes = AttributeList<id>;
 
-using Families = ChildFamilies<FamilyList<OrbWhere, OrbIntersectWhere>>;
+using Families = ChildFamilies<FamilyList<OrbWhere, OrbIntersectWhere, OrbAlternating>>;
 
 } // namespace
 
@@ -43,3 +44,7 @@ unsigned int OrbIntersect::removeWheres() { return children_->removeAll<OrbWhere
 OrbIntersectWhere* OrbIntersect::addIntersectWhere() { return children_->add<OrbIntersectWhere>(*this, atEnd); }
 std::vector<OrbIntersectWhere*> OrbIntersect::getIntersectWheres() const { return children_->all<OrbIntersectWhere>(); }
 unsigned int OrbIntersect::removeIntersectWheres() { return children_->removeAll<OrbIntersectWhere>(*this); }
+
+OrbAlternating* OrbIntersect::addAlternating() { return children_->add<OrbAlternating>(*this, atEnd); }
+std::vector<OrbAlternating*> OrbIntersect::getAlternatings() const { return children_->all<OrbAlternating>(); }
+unsigned int OrbIntersect::removeAlternatings() { return children_->removeAll<OrbAlternating>(*this); }

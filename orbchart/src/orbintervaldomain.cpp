@@ -4,6 +4,7 @@
 #include "attribute.h"
 #include "family.h"
 #include "orbdomainreference.h"
+#include "orbformat.h"
 #include "orbrange.h"
 #include "orbuni.h"
 #include "orbvariablereference.h"
@@ -20,7 +21,10 @@ using Attributes = AttributeList<id, date>;
 
 using AfterReferences = FamilyList<OrbRange>;
 
-using Families = ChildFamilies<FamilyList<OrbVariableReference, OrbDomainReference, OrbRange>>;
+constexpr OnlyOne oneFormat{"Format", "IntervalDomain"};
+
+using Families =
+    ChildFamilies<FamilyList<Limited<OrbFormat, oneFormat>, OrbVariableReference, OrbDomainReference, OrbRange>>;
 
 } // namespace
 
@@ -67,3 +71,7 @@ unsigned int OrbIntervalDomain::removeDomainReferences() { return children_->rem
 OrbRange* OrbIntervalDomain::addRange() { return children_->add<OrbRange>(*this, atEnd); }
 std::vector<OrbRange*> OrbIntervalDomain::getRanges() const { return children_->all<OrbRange>(); }
 unsigned int OrbIntervalDomain::removeRanges() { return children_->removeAll<OrbRange>(*this); }
+
+OrbFormat* OrbIntervalDomain::addFormat() { return children_->add<OrbFormat>(*this, atEnd); }
+std::vector<OrbFormat*> OrbIntervalDomain::getFormats() const { return children_->all<OrbFormat>(); }
+unsigned int OrbIntervalDomain::removeFormats() { return children_->removeAll<OrbFormat>(*this); }

@@ -8,6 +8,8 @@
 #include "orbdomainintersect.h"
 #include "orbdomainreplace.h"
 #include "orbdomainunion.h"
+#include "orbsimplesort.h"
+#include "orbstatisticsort.h"
 #include "orbuni.h"
 
 using namespace orbchart;
@@ -26,7 +28,8 @@ constexpr Keywords dateType{OrbIntervalDomainModifier::_UTF_dateType,
 
 using Attributes = AttributeList<id, dateType>;
 
-using Families = ChildFamilies<FamilyList<OrbDomainReplace, OrbDomainUnion, OrbDomainIntersect, OrbDomainExclude>>;
+using Families = ChildFamilies<FamilyList<OrbDomainReplace, OrbDomainUnion, OrbDomainIntersect, OrbDomainExclude,
+                                          OrbSimpleSort, OrbStatisticSort>>;
 
 } // namespace
 
@@ -84,3 +87,17 @@ std::vector<OrbDomainExclude*> OrbIntervalDomainModifier::getDomainExcludes() co
   return children_->all<OrbDomainExclude>();
 }
 unsigned int OrbIntervalDomainModifier::removeDomainExcludes() { return children_->removeAll<OrbDomainExclude>(*this); }
+
+OrbSimpleSort* OrbIntervalDomainModifier::addSimpleSort() { return children_->add<OrbSimpleSort>(*this, atEnd); }
+std::vector<OrbSimpleSort*> OrbIntervalDomainModifier::getSimpleSorts() const {
+  return children_->all<OrbSimpleSort>();
+}
+unsigned int OrbIntervalDomainModifier::removeSimpleSorts() { return children_->removeAll<OrbSimpleSort>(*this); }
+
+OrbStatisticSort* OrbIntervalDomainModifier::addStatisticSort() {
+  return children_->add<OrbStatisticSort>(*this, atEnd);
+}
+std::vector<OrbStatisticSort*> OrbIntervalDomainModifier::getStatisticSorts() const {
+  return children_->all<OrbStatisticSort>();
+}
+unsigned int OrbIntervalDomainModifier::removeStatisticSorts() { return children_->removeAll<OrbStatisticSort>(*this); }

@@ -4,32 +4,12 @@
 #include "attribute.h"
 #include "elementtext.h"
 #include "loading.h"
+#include "textfields.h"
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 
 using namespace orbchart;
-
-namespace {
-
-/// The fields of a row, one after the other.
-class Fields {
-public:
-  explicit Fields(const ChartString& row) : rest_(row.empty() ? u"" : row.xc_str()) {}
-  /// The next field; empty after the last.
-  std::basic_string_view<XMLCh> next() {
-    rest_.remove_prefix(std::min(rest_.find_first_not_of(u';'), rest_.size()));
-    const auto field = rest_.substr(0, rest_.find(u';'));
-    rest_.remove_prefix(field.size());
-    return field;
-  }
-
-private:
-  std::basic_string_view<XMLCh> rest_;
-};
-
-} // namespace
 
 template <> const ElementDescription& orbchart::descriptionOf<OrbRow>() {
   return elementDescription<OrbRow, BearsText>;
@@ -44,7 +24,7 @@ void OrbRow::removeText() { clearText(*this); }
 
 ChartString OrbRow::getText(unsigned int index) const {
   const ChartString row = getText();
-  Fields fields(row);
+  TextFields fields(row);
   auto field = fields.next();
   for (; !field.empty() && index != 0; --index)
     field = fields.next();
@@ -53,7 +33,7 @@ ChartString OrbRow::getText(unsigned int index) const {
 
 bool OrbRow::setText(const XMLCh* text, unsigned int index) {
   const ChartString row = getText();
-  Fields fields(row);
+  TextFields fields(row);
   const std::basic_string_view<XMLCh> replacement(text == nullptr ? u"" : text);
   std::basic_string<XMLCh> changed;
   bool replaced = false;

@@ -2,6 +2,7 @@
 #include "orbscale.h"
 
 #include "attribute.h"
+#include "distributionkeywords.h"
 #include "keyword.h"
 #include "loading.h"
 #include "orbuni.h"
@@ -15,25 +16,7 @@ constexpr Id id;
 constexpr Boolean invert{OrbUni::_invert};
 constexpr Text origin{OrbUni::_origin};
 constexpr Double base{OrbUni::_base};
-constexpr Keywords distribution{
-    OrbUni::_distribution,
-    OrbScale::distribution_unset,
-    {
-        {OrbScale::distribution_uniform, OrbUni::_uniform},
-        {OrbScale::distribution_normal, OrbUni::_normal},
-        {OrbScale::distribution_t, OrbUni::_t},
-        {OrbScale::distribution_f, OrbUni::_f},
-        {OrbScale::distribution_chisquare, OrbUni::_chisquare},
-        {OrbScale::distribution_gamma, OrbUni::_gamma},
-        {OrbScale::distribution_beta, OrbUni::_beta},
-        {OrbScale::distribution_exponential, OrbUni::_exponential},
-        {OrbScale::distribution_logistic, OrbUni::_logistic},
-        {OrbScale::distribution_studentizedrange, OrbUni::_studentizedrange},
-        {OrbScale::distribution_weibull, OrbScale::_UTF_distribution_weibull},
-        {OrbScale::distribution_poisson, OrbUni::_poisson},
-        {OrbScale::distribution_binomialnegative, OrbScale::_UTF_distribution_binomialnegative},
-        {OrbScale::distribution_gaussianinverse, OrbScale::_UTF_distribution_gaussianinverse},
-    }};
+constexpr Keywords distribution{OrbUni::_distribution, OrbScale::distribution_unset, distributionsOf<OrbScale>};
 constexpr Double distributionParameter{OrbScale::_UTF_distributionParameter};
 constexpr Double distributionParameter2{OrbScale::_UTF_distributionParameter2};
 constexpr Keywords method{OrbUni::_method,

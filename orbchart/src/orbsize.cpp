@@ -2,9 +2,12 @@
 #include "orbsize.h"
 
 #include "attribute.h"
+#include "family.h"
 #include "keyword.h"
-#include "loading.h"
+#include "orblengthmapping.h"
+#include "orbstylecycle.h"
 #include "orbuni.h"
+#include "reference.h"
 
 using namespace orbchart;
 
@@ -22,17 +25,24 @@ constexpr Keywords type{OrbUni::_type,
 constexpr Text low{OrbUni::_low};
 constexpr Text high{OrbUni::_high};
 constexpr Text missing{OrbSize::_UTF_missing};
-constexpr Text cycle{OrbUni::_cycle};
+constexpr Reference<OrbStyleCycle> cycle{OrbUni::_cycle};
 
 using Attributes = AttributeList<type, low, high, missing, cycle>;
+
+using Families = ChildFamilies<FamilyList<OrbLengthMapping>, Unknown::passes>;
 
 } // namespace
 
 template <> const ElementDescription& orbchart::descriptionOf<OrbSize>() {
-  return elementDescription<OrbSize, DerivedFrom<CTAesthetic>, Attributes>;
+  return elementDescription<OrbSize, DerivedFrom<CTAesthetic>, Attributes, Families>;
 }
 
-OrbSize::OrbSize(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
+struct OrbSize::Children : Families {};
+
+OrbSize::OrbSize(xercesc::DOMElement* element) : CTAesthetic(element), children_(new Children) {
+  children_->load(*this);
+  bind(*this);
+}
 OrbSize::~OrbSize() = default;
 
 OrbSize::ENUM_type OrbSize::getType() const { return type.get(*this); }
@@ -53,5 +63,15 @@ void OrbSize::setMissing(const XMLCh* value) { missing.set(*this, value); }
 bool OrbSize::isMissingPresent() const { return missing.isPresent(*this); }
 void OrbSize::removeMissing() { missing.remove(*this); }
 
+OrbStyleCycle* OrbSize::getCycle() const { return cycle.get(*this); }
+void OrbSize::setCycle(const OrbStyleCycle& target) { cycle.set(*this, target); }
 bool OrbSize::isCyclePresent() const { return cycle.isPresent(*this); }
 void OrbSize::removeCycle() { cycle.remove(*this); }
+
+AGAestheticRangeLengths OrbSize::getAestheticRangeLengths() const {
+  return AGAestheticRangeLengths(getImplementation());
+}
+
+OrbLengthMapping* OrbSize::addLengthMapping() { return children_->add<OrbLengthMapping>(*this, atEnd); }
+std::vector<OrbLengthMapping*> OrbSize::getLengthMappings() const { return children_->all<OrbLengthMapping>(); }
+unsigned int OrbSize::removeLengthMappings() { return children_->removeAll<OrbLengthMapping>(*this); }

@@ -6,6 +6,7 @@
 #include "chartstring.h"
 #include "family.h"
 #include "keyword.h"
+#include "orbextensionstyle.h"
 #include "orbuni.h"
 
 #include <algorithm>
@@ -270,9 +271,6 @@ using Attributes =
                   ignoreNewLines, twoCharacterVertical, baselineRotated, maxAttachedTextWidth, maxAttachedTextHeight,
                   text_fit, text_rotate, visible>;
 
-// What the language has after them has no class here.
-using AfterStyles = FamilyList<>;
-
 /// Writes a number from 0.0 to 1.0, and no other.
 void setShare(OrbStyle& style, const Double& attribute, double share) {
   if (share >= 0.0 && share <= 1.0)
@@ -292,7 +290,8 @@ void setTriple(OrbStyle& style, const Text& attribute, const XMLCh* oldText, con
   attribute.set(style, text.xc_str());
 }
 
-using Families = ChildFamilies<FamilyList<StripsIds<OrbStyle>>>;
+using AfterStyles = FamilyList<OrbExtensionStyle>;
+using Families = ChildFamilies<FamilyList<StripsIds<OrbStyle>, OrbExtensionStyle>>;
 
 } // namespace
 
@@ -773,6 +772,10 @@ void OrbStyle::removeVisible() { visible.remove(*this); }
 OrbStyle* OrbStyle::addStyle() { return children_->add<OrbStyle>(*this, AfterStyles{}); }
 std::vector<OrbStyle*> OrbStyle::getStyles() const { return children_->all<OrbStyle>(); }
 unsigned int OrbStyle::removeStyles() { return children_->removeAll<OrbStyle>(*this); }
+
+OrbExtensionStyle* OrbStyle::addExtension() { return children_->add<OrbExtensionStyle>(*this, atEnd); }
+OrbExtensionStyle* OrbStyle::getExtension() const { return children_->first<OrbExtensionStyle>(); }
+unsigned int OrbStyle::removeExtensions() { return children_->removeAll<OrbExtensionStyle>(*this); }
 
 // Triples
 

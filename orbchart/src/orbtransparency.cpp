@@ -2,8 +2,9 @@
 #include "orbtransparency.h"
 
 #include "attribute.h"
+#include "family.h"
 #include "keyword.h"
-#include "loading.h"
+#include "orbdoublemapping.h"
 #include "orbuni.h"
 
 using namespace orbchart;
@@ -25,13 +26,20 @@ constexpr Double missing{OrbTransparency::_UTF_missing};
 
 using Attributes = AttributeList<affect, low, high, missing>;
 
+using Families = ChildFamilies<FamilyList<OrbDoubleMapping>, Unknown::passes>;
+
 } // namespace
 
 template <> const ElementDescription& orbchart::descriptionOf<OrbTransparency>() {
-  return elementDescription<OrbTransparency, DerivedFrom<CTAesthetic>, Attributes>;
+  return elementDescription<OrbTransparency, DerivedFrom<CTAesthetic>, Attributes, Families>;
 }
 
-OrbTransparency::OrbTransparency(xercesc::DOMElement* element) : CTAesthetic(element) { bind(*this); }
+struct OrbTransparency::Children : Families {};
+
+OrbTransparency::OrbTransparency(xercesc::DOMElement* element) : CTAesthetic(element), children_(new Children) {
+  children_->load(*this);
+  bind(*this);
+}
 OrbTransparency::~OrbTransparency() = default;
 
 OrbTransparency::ENUM_affect OrbTransparency::getAffect() const { return affect.get(*this); }
@@ -52,3 +60,11 @@ double OrbTransparency::getMissing() const { return missing.get(*this); }
 void OrbTransparency::setMissing(double value) { missing.set(*this, value); }
 bool OrbTransparency::isMissingPresent() const { return missing.isPresent(*this); }
 void OrbTransparency::removeMissing() { missing.remove(*this); }
+
+AGAestheticRangeZeroOne OrbTransparency::getAestheticRangeZeroOne() const {
+  return AGAestheticRangeZeroOne(getImplementation());
+}
+
+OrbDoubleMapping* OrbTransparency::addDoubleMapping() { return children_->add<OrbDoubleMapping>(*this, atEnd); }
+std::vector<OrbDoubleMapping*> OrbTransparency::getDoubleMappings() const { return children_->all<OrbDoubleMapping>(); }
+unsigned int OrbTransparency::removeDoubleMappings() { return children_->removeAll<OrbDoubleMapping>(*this); }

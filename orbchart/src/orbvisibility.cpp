@@ -3,6 +3,7 @@
 
 #include "attribute.h"
 #include "family.h"
+#include "orbbooleanmapping.h"
 #include "orbuni.h"
 
 using namespace orbchart;
@@ -16,7 +17,7 @@ constexpr Boolean missing{OrbVisibility::_UTF_missing};
 
 using Attributes = AttributeList<low, high, missing>;
 
-using Families = ChildFamilies<FamilyList<>>;
+using Families = ChildFamilies<FamilyList<OrbBooleanMapping>>;
 
 } // namespace
 
@@ -46,3 +47,9 @@ bool OrbVisibility::getMissing() const { return missing.get(*this); }
 void OrbVisibility::setMissing(bool value) { missing.set(*this, value); }
 bool OrbVisibility::isMissingPresent() const { return missing.isPresent(*this); }
 void OrbVisibility::removeMissing() { missing.remove(*this); }
+
+OrbBooleanMapping* OrbVisibility::addBooleanMapping() { return children_->add<OrbBooleanMapping>(*this, atEnd); }
+std::vector<OrbBooleanMapping*> OrbVisibility::getBooleanMappings() const {
+  return children_->all<OrbBooleanMapping>();
+}
+unsigned int OrbVisibility::removeBooleanMappings() { return children_->removeAll<OrbBooleanMapping>(*this); }
