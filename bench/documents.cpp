@@ -27,6 +27,21 @@ const std::string& manyRowsText() {
   return text;
 }
 
+constexpr unsigned int manyStyles = 100'000;
+
+/// A chart of styles with eight attributes each.
+const std::string& manyStylesText() {
+  static const std::string text = [] {
+    std::string chart = "<visualization>";
+    for (unsigned int style = 0; style < manyStyles; ++style)
+      chart += "\n\t<style id=\"style" + std::to_string(style) +
+               "\" color=\"steelblue\" color2=\"white\" opacity=\"0.5\" stroke-width=\"2pt\" font-family=\"serif\""
+               " font-size=\"12pt\" visible=\"true\"/>";
+    return chart + "\n</visualization>\n";
+  }();
+  return text;
+}
+
 struct ParsedChart {
   explicit ParsedChart(unsigned int rows) : parsed(rows == manyRows ? manyRowsText() : chartText(rows)) {}
 
@@ -79,25 +94,36 @@ struct AttributedChart {
 
 // Loading
 
-/// Binds something to each element below the root, which is the least that wrappers need.
-void bindByHand(const DOMDocument& document) {
-  for (DOMNode* source = document.getDocumentElement()->getFirstChild(); source; source = source->getNextSibling()) {
-    for (DOMNode* child = source->getFirstChild(); child != nullptr; child = child->getNextSibling()) {
-      if (child->getNodeType() == DOMNode::ELEMENT_NODE)
-        child->setUserData(u"row", child, nullptr);
-    }
+/// Binds something to each child element, which is the least that wrappers need.
+void bindChildrenByHand(const DOMNode& parent, const XMLCh* key) {
+  for (DOMNode* child = parent.getFirstChild(); child != nullptr; child = child->getNextSibling()) {
+    if (child->getNodeType() == DOMNode::ELEMENT_NODE)
+      child->setUserData(key, child, nullptr);
   }
 }
 
-double wrap() {
-  const bench::Parsed parsed(manyRowsText());
+void bindRowsByHand(const DOMDocument& document) {
+  for (DOMNode* source = document.getDocumentElement()->getFirstChild(); source; source = source->getNextSibling())
+    bindChildrenByHand(*source, u"row");
+}
+
+void bindStylesByHand(const DOMDocument& document) { bindChildrenByHand(*document.getDocumentElement(), u"style"); }
+
+double wrap(const std::string& text) {
+  const bench::Parsed parsed(text);
   std::optional<OrbDocument> chart;
   return seconds([&] { chart.emplace(parsed.document()); });
 }
 
-double bind() {
-  const bench::Parsed parsed(manyRowsText());
+double bind(const std::string& text, void (*bindByHand)(const DOMDocument&)) {
+  const bench::Parsed parsed(text);
   return seconds([&] { bindByHand(*parsed.document()); });
+}
+
+void compareWrapping(const std::string& work, const std::string& (*text)(), void (*bindByHand)(const DOMDocument&)) {
+  bench::compareTimes(
+      work, "`setUserData` on each element by hand", 1.15, 21, [=] { return wrap(text()); },
+      [=] { return bind(text(), bindByHand); });
 }
 
 double parse() {
@@ -115,7 +141,7 @@ double bytesOfAWrapper() {
 double bytesOfABinding() {
   const bench::Parsed parsed(manyRowsText());
   const double before = bench::heapInUse();
-  bindByHand(*parsed.document());
+  bindRowsByHand(*parsed.document());
   return (bench::heapInUse() - before) / manyRows;
 }
 
@@ -326,10 +352,15 @@ int main(int argc, char** argv) {
   checkSmallDocuments();
 
   const std::string parsed = "wrap a parsed source of 200,000 rows";
-  bench::compareTimes(parsed, "`setUserData` on each element by hand", 1.25, 21, wrap, bind);
-  bench::compareTimes(parsed, "parsing it", 0.45, 5, wrap, parse);
+  const std::string styles = "100,000 styles of 8 attributes";
+  compareWrapping(parsed, manyRowsText, bindRowsByHand);
+  compareWrapping("wrap " + styles, manyStylesText, bindStylesByHand);
+  bench::compareTimes(
+      parsed, "parsing it", 0.45, 5, [] { return wrap(manyRowsText()); }, parse);
   bench::compareBytes("memory of each of these wrappers", "`setUserData` alone", 0, bytesOfAWrapper, bytesOfABinding);
 
+  bench::compareTextToText("200,000 rows", 9, manyRowsText);
+  bench::compareTextToText(styles, 9, manyStylesText);
   comparePrinting<ParsedChart>("print that source, indented", 0.40, manyRows);
   comparePrinting<MadeChart>("print 200,000 rows that were added, indented", 0.40, manyRows);
   comparePrinting<AttributedChart>("print 100,000 elements with 8 attributes each", 0.45, manyRows / 2);

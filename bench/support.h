@@ -18,6 +18,7 @@
 #include <ctime>
 #include <fstream>
 #include <functional>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -233,6 +234,35 @@ inline void serialize(const xercesc::DOMDocument& document, xercesc::MemBufForma
     throw std::logic_error("what is measured does not print");
   output->release();
   serializer->release();
+}
+
+/// From a file's text to a text again, through the wrappers.
+inline double parseWrapAndPrint(const std::string& xml) {
+  std::optional<Parsed> parsed;
+  std::optional<OrbDocument> chart;
+  std::string text;
+  return seconds([&] {
+    parsed.emplace(xml);
+    chart.emplace(parsed->document());
+    text = chart->AsUTF8();
+  });
+}
+
+/// The same without any wrapper.
+inline double parseAndSerialize(const std::string& xml) {
+  std::optional<Parsed> parsed;
+  xercesc::MemBufFormatTarget target;
+  return seconds([&] {
+    parsed.emplace(xml);
+    serialize(*parsed->document(), target);
+  });
+}
+
+/// Compares the two. The text is asked for when it is measured, so that a program holds the texts that it needs.
+inline void compareTextToText(const std::string& work, int turns, const std::string& (*xml)()) {
+  compareTimes(
+      "parse, wrap and print " + work, "parsing and `DOMLSSerializer`, indented, with nothing wrapped", 1.00, turns,
+      [=] { return parseWrapAndPrint(xml()); }, [=] { return parseAndSerialize(xml()); });
 }
 
 /// A number as the DOM's text.

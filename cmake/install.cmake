@@ -1,11 +1,12 @@
 # What an installation holds: the headers, the libraries, and the descriptions by which CMake and pkg-config find them.
+include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/orbchart")
+set(include_dir "${CMAKE_INSTALL_INCLUDEDIR}/orbchart")
 
-install(TARGETS orbchart quvaiocv EXPORT orbchartTargets)
-install(DIRECTORY orbchart/include/ quvaiocv/include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/orbchart"
-        FILES_MATCHING PATTERN "*.h")
+install(TARGETS orbchart orbchart_quvaiocv EXPORT orbchartTargets INCLUDES DESTINATION "${include_dir}")
+install(DIRECTORY orbchart/include/ quvaiocv/include/ DESTINATION "${include_dir}" FILES_MATCHING PATTERN "*.h")
 
 install(EXPORT orbchartTargets NAMESPACE orbchart:: DESTINATION "${package_dir}")
 configure_package_config_file(cmake/orbchartConfig.cmake.in orbchartConfig.cmake INSTALL_DESTINATION "${package_dir}"
@@ -22,6 +23,11 @@ if(ORBCHART_QUVAIOCV_LIBRARY)
   set(quvaiocv_link "${ORBCHART_QUVAIOCV_LIBRARY}")
 else()
   set(quvaiocv_link "-lquvaiocv")
+endif()
+# A shared library brings ICU along; a host that links the static one needs it on its own command line.
+set(requirements "xerces-c >= 3.2")
+if(NOT BUILD_SHARED_LIBS)
+  string(APPEND requirements ", icu-uc")
 endif()
 configure_file(cmake/orbchart.pc.in orbchart.pc @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/orbchart.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

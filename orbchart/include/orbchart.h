@@ -44,6 +44,7 @@
 #include "orbcategoryorder.h"
 #include "orbchartdom.h"
 #include "orbchartexport.h"
+#include "orbchartversion.h"
 #include "orbclusteringstatistic.h"
 #include "orbcollectrowsstatistic.h"
 #include "orbcolor.h"

@@ -18,7 +18,7 @@ inline constexpr const XMLCh* allDistributions[] = {
     OrbUni::_exponential,
     OrbUni::_logistic,
     OrbUni::_studentizedrange,
-    OrbUni::_weibull,
+    OrbScale::_UTF_distribution_weibull,
     OrbUni::_poisson,
     OrbScale::_UTF_distribution_binomialnegative,
     OrbScale::_UTF_distribution_gaussianinverse,
