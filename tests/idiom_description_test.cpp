@@ -2,7 +2,9 @@
 #include "accessordifferences.h"
 #include "description.h"
 #include "dom.h"
+#include "loading.h"
 #include "orbvisualization.h"
+#include "raised.h"
 
 #include <gtest/gtest.h>
 
@@ -13,9 +15,13 @@
 #include <regex>
 #include <set>
 #include <sstream>
+#include <vector>
 
 using namespace orbchart;
+using test::messageOf;
+using test::NewDocument;
 using test::utf8;
+using xercesc::DOMElement;
 
 namespace {
 
@@ -56,14 +62,27 @@ std::map<std::string, DeclaredClass> declaredClasses() {
 void collect(const ElementDescription& element, std::map<std::string, const ElementDescription*>& reached) {
   if (!reached.emplace(element.className, &element).second)
     return;
-  for (const FamilyDescription& family : familiesOf(element))
-    collect(family.child(), reached);
+  for (const FamilyDescription* family : familiesOf(element))
+    collect(family->child(), reached);
 }
 
 std::map<std::string, const ElementDescription*> allDescriptions() {
+  static const test::Platform platform; // for the names, of which there are thousands
   std::map<std::string, const ElementDescription*> reached;
   collect(descriptionOf<OrbVisualization>(), reached);
   return reached;
+}
+
+/// The elements that lead from the root to each class.
+void collectPaths(const ElementDescription& element, const std::vector<const XMLCh*>& path,
+                  std::map<std::string, std::vector<const XMLCh*>>& paths) {
+  if (!paths.emplace(element.className, path).second)
+    return;
+  for (const FamilyDescription* family : familiesOf(element)) {
+    std::vector<const XMLCh*> longer = path;
+    longer.push_back(family->child().name);
+    collectPaths(family->child(), longer, paths);
+  }
 }
 
 /// What no parent holds, and what only they hold.
@@ -92,8 +111,8 @@ TEST(Description, HasEachAttributeOfItsClass) {
   const auto declared = declaredClasses();
   for (const auto& [name, description] : allDescriptions()) {
     std::set<std::string> described;
-    for (const AttributeDescription& attribute : attributesOf(*description))
-      described.insert(capitalised(utf8(attribute.name)));
+    for (const AttributeDescription* attribute : attributesOf(*description))
+      described.insert(capitalised(utf8(attribute->name)));
     for (std::string owner = name; declared.count(owner) != 0; owner = declared.at(owner).base) {
       for (const std::string& x : declared.at(owner).attributes) {
         const auto other = test::otherNames.find(owner + "::" + x);
@@ -107,36 +126,36 @@ TEST(Description, HasEachAttributeOfItsClass) {
 TEST(Description, SaysEachThingOnce) {
   for (const auto& [name, description] : allDescriptions()) {
     std::set<std::string> attributes;
-    for (const AttributeDescription& attribute : attributesOf(*description)) {
-      EXPECT_TRUE(attributes.insert(utf8(attribute.name)).second) << name << " " << utf8(attribute.name);
+    for (const AttributeDescription* attribute : attributesOf(*description)) {
+      EXPECT_TRUE(attributes.insert(utf8(attribute->name)).second) << name << " " << utf8(attribute->name);
       std::set<std::string> words;
       std::set<int> numbers;
-      for (const KeywordDescription& keyword : attribute.keywords) {
+      for (const KeywordDescription& keyword : attribute->keywords) {
         EXPECT_TRUE(words.insert(utf8(keyword.text)).second) << name << " " << utf8(keyword.text);
         EXPECT_TRUE(numbers.insert(keyword.number).second) << name << " " << keyword.number;
       }
-      EXPECT_EQ(numbers.count(attribute.fallback) != 0, attribute.fallbackIsKeyword)
-          << name << " " << utf8(attribute.name);
-      EXPECT_EQ(attribute.kind == AttributeKind::id, utf8(attribute.name) == "id") << name;
+      EXPECT_EQ(numbers.count(attribute->fallback) != 0, attribute->fallbackIsKeyword)
+          << name << " " << utf8(attribute->name);
+      EXPECT_EQ(attribute->kind == AttributeKind::id, utf8(attribute->name) == "id") << name;
     }
     std::set<std::string> families;
-    for (const FamilyDescription& family : familiesOf(*description))
-      EXPECT_TRUE(families.insert(utf8(family.child().name)).second) << name << " " << utf8(family.child().name);
+    for (const FamilyDescription* family : familiesOf(*description))
+      EXPECT_TRUE(families.insert(utf8(family->child().name)).second) << name << " " << utf8(family->child().name);
   }
 }
 
 TEST(Description, ReachesWhatReferencesLeadTo) {
   const auto reached = allDescriptions();
   for (const auto& [name, description] : reached) {
-    for (const AttributeDescription& attribute : attributesOf(*description)) {
-      for (const Described target : attribute.targets) {
+    for (const AttributeDescription* attribute : attributesOf(*description)) {
+      for (const Described target : attribute->targets) {
         const std::string className(target().className);
         EXPECT_TRUE(reached.count(className) != 0 || className == "OrbReshapeSource") << name << " " << className;
       }
-      if (attribute.takes == nullptr)
+      if (attribute->takes == nullptr)
         continue;
-      const auto derives = [&](const auto& other) { return other.second->base == attribute.takes; };
-      EXPECT_TRUE(std::any_of(reached.begin(), reached.end(), derives)) << name << " " << utf8(attribute.name);
+      const auto derives = [&](const auto& other) { return other.second->base == attribute->takes; };
+      EXPECT_TRUE(std::any_of(reached.begin(), reached.end(), derives)) << name << " " << utf8(attribute->name);
     }
   }
 }
@@ -144,9 +163,9 @@ TEST(Description, ReachesWhatReferencesLeadTo) {
 TEST(Description, KnowsLimitsAlternativesAndWhatALoadPassesOver) {
   const auto reached = allDescriptions();
   const auto family = [&](const char* parent, const char* child) {
-    for (const FamilyDescription& one : familiesOf(*reached.at(parent))) {
-      if (utf8(one.child().name) == child)
-        return one;
+    for (const FamilyDescription* one : familiesOf(*reached.at(parent))) {
+      if (utf8(one->child().name) == child)
+        return *one;
     }
     return FamilyDescription{};
   };
@@ -168,4 +187,25 @@ TEST(Description, KnowsLimitsAlternativesAndWhatALoadPassesOver) {
                                              "OrbSplit", "OrbStyleBy", "OrbTransparency"}));
   EXPECT_TRUE(reached.at("OrbRow")->bearsText);
   EXPECT_TRUE(reached.at("OrbExtension")->isFree);
+}
+
+TEST(Description, KnowsNoClassThatPassesOverWhatLiesTooDeep) {
+  std::map<std::string, std::vector<const XMLCh*>> paths;
+  collectPaths(descriptionOf<OrbVisualization>(), {}, paths);
+  const NewDocument document(u"visualization");
+  DOMElement* deep = document.document()->createElement(u"deep");
+  document.nest(deep, u"deep", maximumNesting);
+  for (const auto& [name, description] : allDescriptions()) {
+    if (unknownChildrenOf(*description) == Unknown::raises)
+      continue;
+    DOMElement* parent = document.root();
+    for (const XMLCh* element : paths.at(name))
+      parent = document.nest(parent, element, 1);
+    parent->appendChild(deep);
+    EXPECT_EQ(messageOf([&] { const OrbVisualization root(document.root()); }).substr(0, 80),
+              "Elements are nested more than 10240 levels deep below visualization.")
+        << name;
+    parent->removeChild(deep);
+    document.root()->removeChild(document.root()->getFirstChild());
+  }
 }

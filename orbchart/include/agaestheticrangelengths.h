@@ -5,6 +5,7 @@
 
 /// A view of the `low` and `high` of an aesthetic's element: it makes no element and registers nothing. What is written
 /// through it shows in the aesthetic at once. It must not outlive the element.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT AGAestheticRangeLengths : public OrbBaseElement {
 public:
   explicit AGAestheticRangeLengths(xercesc::DOMElement* element);

@@ -6,6 +6,7 @@
 /// Prints like DOMPrinter, save that the children of label and of descriptionGroup are written without line breaks and
 /// the closing tags of these two follow at once. A node whose parent is neither an element nor a document begins no
 /// line.
+/// \ingroup documents
 class ORBCHART_EXPORT ChartPrinter : public DOMPrinter {
 public:
   static constexpr XMLCh _label[] = u"label";

@@ -16,6 +16,7 @@
 ///
 /// A `const char*` is in the generic encoding, which is UTF-8. Bytes that are not, and surrogates that stand alone, are
 /// left out on the way between UTF-8 and UTF-16.
+/// \ingroup tools
 class ORBCHART_EXPORT ChartString {
 public:
   ChartString();

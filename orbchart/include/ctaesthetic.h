@@ -16,6 +16,7 @@ class OrbSummaryStatistic;
 /// An aesthetic: maps the values of a variable or a dimension onto a visual property of a graphic element.
 ///
 /// A load passes over child elements that it does not know.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT CTAesthetic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_clamp[] = u"clamp";

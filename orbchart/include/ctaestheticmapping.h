@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Maps a value of the data onto a visual value.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT CTAestheticMapping : public OrbBaseElement {
 public:
   ~CTAestheticMapping() override;

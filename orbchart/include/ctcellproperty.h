@@ -9,6 +9,7 @@ class OrbLabeling;
 class OrbMajorTicks;
 
 /// One property that OrbSetCellProperties sets, and what it is set on.
+/// \ingroup graph
 class ORBCHART_EXPORT CTCellProperty : public OrbBaseElement {
 public:
   ~CTCellProperty() override;

@@ -9,6 +9,7 @@ class OrbExpressionVariable;
 class OrbSourceVariable;
 
 /// Assigns a variable to one coordinate of a graphic element.
+/// \ingroup elements
 class ORBCHART_EXPORT CTCoordinate : public OrbBaseElement {
 public:
   ~CTCoordinate() override;

@@ -61,6 +61,7 @@ class OrbZ;
 /// `attach` among these. A load takes any order and any number.
 ///
 /// A removed child's id stays registered with the document.
+/// \ingroup elements
 class ORBCHART_EXPORT CTElementType : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_positionModifier_pile[] = u"pile";

@@ -8,6 +8,7 @@
 class OrbAffix;
 
 /// The common base of formats. A load passes over child elements that it does not know.
+/// \ingroup style
 class ORBCHART_EXPORT CTFormatType : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_hiddenseparator[] = u"hiddenseparator";

@@ -12,6 +12,7 @@ class OrbLocation;
 ///
 /// It registers nothing: no reference leads to it unless the host registers its wrapper on the element. A load passes
 /// over child elements that it does not know.
+/// \ingroup graph
 class ORBCHART_EXPORT CTFrame : public OrbBaseElement {
 public:
   explicit CTFrame(xercesc::DOMElement* element);

@@ -11,6 +11,7 @@ class OrbLabel;
 class OrbStyle;
 
 /// A guide: a line, a plane, a point, a rectangle, a frame or the curve of a function that is laid over a graph.
+/// \ingroup guides
 class ORBCHART_EXPORT CTGuideType : public OrbBaseElement {
 public:
   ~CTGuideType() override;

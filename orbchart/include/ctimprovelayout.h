@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// One step that improves the layout of nodes and links.
+/// \ingroup statistics
 class ORBCHART_EXPORT CTImproveLayout : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_ignoreLinkCrossings[] = u"ignoreLinkCrossings";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A behaviour of the chart when a viewer acts on it. It is described here and performed by whoever draws the chart.
+/// \ingroup interaction
 class ORBCHART_EXPORT CTInteraction : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_active[] = u"active";

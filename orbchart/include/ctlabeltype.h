@@ -11,6 +11,7 @@ class OrbStyle;
 class OrbText;
 
 /// A label: texts and facts about the data, with a style, and other labels that may stand in its place.
+/// \ingroup guides
 class ORBCHART_EXPORT CTLabelType : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_textFrameStyle[] = u"textFrameStyle";

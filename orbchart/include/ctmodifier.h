@@ -10,6 +10,7 @@ class OrbRange;
 class OrbVariableReference;
 
 /// One operation on the values of a domain, and the values that it works with. They stand in the order of the adds.
+/// \ingroup variables
 class ORBCHART_EXPORT CTModifier : public OrbBaseElement {
 public:
   ~CTModifier() override;

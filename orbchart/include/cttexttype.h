@@ -7,6 +7,7 @@
 class OrbStyle;
 
 /// An element that holds a literal text: the text nodes among its children.
+/// \ingroup guides
 class ORBCHART_EXPORT CTTextType : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_position_superscript[] = u"superscript";

@@ -16,6 +16,7 @@ class OrbIntervalDomain;
 ///
 /// The library evaluates nothing of it: what is written is stored unchanged. A load passes over child elements that it
 /// does not know.
+/// \ingroup variables
 class ORBCHART_EXPORT CTVariableType : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_domainModifier[] = u"domainModifier";

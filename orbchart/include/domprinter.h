@@ -25,6 +25,7 @@
 /// A host may derive from the class and write to the formatter in beginNode(), endNode() or beginLine(): what it writes
 /// lands in its place. During these calls the formatter's escape setting is NoEscapes. An XMLException of theirs is
 /// logged and the walk goes on; any other exception ends the print.
+/// \ingroup documents
 class ORBCHART_EXPORT DOMPrinter {
 public:
   static constexpr XMLCh _xmlDecl1[] = u"<?xml version=\"";

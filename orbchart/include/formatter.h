@@ -7,6 +7,7 @@
 #include <string>
 
 /// A plain number of eight characters with two decimals; for hosts.
+/// \ingroup tools
 static constexpr QUVA_Format plainNumberFormat = {8, QUVA_Format::number, 2};
 
 /// Turns numbers, and data values with a description of their format, into text. Only `ToString` of quvaiocv.h asks the
@@ -14,6 +15,7 @@ static constexpr QUVA_Format plainNumberFormat = {8, QUVA_Format::number, 2};
 ///
 /// The missing value is the lowest finite `double`. Dates count the seconds from the midnight that begins 14 October
 /// 1582.
+/// \ingroup tools
 class ORBCHART_EXPORT formatter {
 public:
   /// The decimal text of a whole number.

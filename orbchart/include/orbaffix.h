@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A text that a format puts before or behind a value.
+/// \ingroup style
 class ORBCHART_EXPORT OrbAffix : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_affix[] = u"affix";

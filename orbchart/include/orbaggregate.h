@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// An aggregation of the rows of a source by key variables, before they reach the chart.
+/// \ingroup data
 class ORBCHART_EXPORT OrbAggregate : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_aggregate[] = u"aggregate";

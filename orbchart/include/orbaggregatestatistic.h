@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// An aggregation of the rows of a cell.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbAggregateStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_aggregateStatistic[] = u"aggregateStatistic";

@@ -8,6 +8,7 @@ class OrbSourceVariable;
 
 /// Gathers the small categories of its variable: those whose share of a sum stays under a fraction go into one new
 /// category.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbAggregation : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_aggregation[] = u"aggregation";

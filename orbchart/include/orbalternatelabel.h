@@ -4,6 +4,7 @@
 #include "ctlabeltype.h"
 
 /// A variant of a label in another language.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbAlternateLabel : public CTLabelType {
 public:
   static constexpr XMLCh _UTF_alternateLabel[] = u"alternateLabel";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A selection under OrbIntersect: every other one.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbAlternating : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_alternating[] = u"alternating";

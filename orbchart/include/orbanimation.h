@@ -4,6 +4,7 @@
 #include "ctinteraction.h"
 
 /// An animation over the values of a variable.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbAnimation : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_animation[] = u"animation";

@@ -4,6 +4,7 @@
 #include "ctelementtype.h"
 
 /// A filled area.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbArea : public CTElementType {
 public:
   static constexpr XMLCh _UTF_area[] = u"area";

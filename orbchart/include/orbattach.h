@@ -6,6 +6,7 @@
 class CTVariableType;
 
 /// Ties a graphic element or a faceting, through a key variable, to a label or a shape of a target.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbAttach : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_attach[] = u"attach";

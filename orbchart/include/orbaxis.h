@@ -12,6 +12,7 @@ class OrbMinorTicks;
 class OrbStyle;
 
 /// One axis of a dimension or of a facet level: its label, its ticks and the parameters of its transform.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbAxis : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_axis[] = u"axis";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// One parameter of the transform of an axis: a name and a value.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbAxisTransformParameter : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_axisTransformParameter[] = u"axisTransformParameter";

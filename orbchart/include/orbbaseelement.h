@@ -37,6 +37,7 @@ class OrbVisualization;
 ///   styles, style cycles, pop-ups and drill-downs. The removes of a single child by its position do not, save
 ///   `removeEdge`.
 /// - The text of an element is that of its text nodes: CDATA sections and entity references in it read as nothing.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbBaseElement {
 public:
   /// Every wrapper but this base registers itself on its element, in the place of one that stands there. A wrapper that

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A sorting of rows into bins along the dimensions.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbBinStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_binStatistic[] = u"binStatistic";

@@ -4,6 +4,7 @@
 #include "ctaestheticmapping.h"
 
 /// Maps a value onto yes or no. The constructor with a value leaves `from` unset.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbBooleanMapping : public CTAestheticMapping {
 public:
   static constexpr XMLCh _UTF_booleanMapping[] = u"booleanMapping";

@@ -24,6 +24,7 @@ class OrbVisibility;
 
 /// What the selected marks of a graphic element look like, and how the selection links to other charts. The aesthetics
 /// among its children take effect on the selected marks; a new one goes last.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbBrushing : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_brushing[] = u"brushing";

@@ -16,6 +16,7 @@ class OrbVariableReference;
 
 /// A domain that lists the categories of a variable that count, and orders them. It may take up the values of other
 /// domains and of variables.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbCategoricalDomain : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_categoricalDomain[] = u"categoricalDomain";

@@ -13,6 +13,7 @@ class OrbSimpleSort;
 class OrbStatisticSort;
 
 /// A change of the values of a domain of categories, by operations of four kinds. They stand in the order of the adds.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbCategoricalDomainModifier : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_categoricalDomainModifier[] = u"categoricalDomainModifier";

@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// A list of categories; the library does not read its text.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbCategories : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_categories[] = u"categories";

@@ -7,6 +7,7 @@
 /// A list of categories for an operation of a domain modifier; the library does not read its text.
 ///
 /// The wrapper is registered under the key `categories`, which is not the name of its element.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbCategories2 : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_categories2[] = u"categories2";

@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// A custom order of categories, as one text of fields that ";" separates; an empty field does not exist.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbCategoryOrder : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_categoryOrder[] = u"categoryOrder";

@@ -3,7 +3,11 @@
 
 #include "agaestheticrangelengths.h"
 #include "agaestheticrangezeroone.h"
+#include "chartchecker.h"
+#include "chartlanguage.h"
 #include "chartprinter.h"
+#include "chartreader.h"
+#include "chartreferences.h"
 #include "chartstring.h"
 #include "ctaesthetic.h"
 #include "ctaestheticmapping.h"

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Gathers the rows of a cell in clusters. It has no operations for an id.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbClusteringStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_clusteringStatistic[] = u"clusteringStatistic";

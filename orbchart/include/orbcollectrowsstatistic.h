@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A collection of the rows of a cell.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbCollectRowsStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_collectRowsStatistic[] = u"collectRowsStatistic";

@@ -9,6 +9,7 @@ class OrbColorMapping;
 class OrbStyleCycle;
 
 /// The colour of a graphic element.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbColor : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_color[] = u"color";

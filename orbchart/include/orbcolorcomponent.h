@@ -8,6 +8,7 @@
 class OrbDoubleMapping;
 
 /// One component of the colour of a graphic element.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbColorComponent : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_colorComponent[] = u"colorComponent";

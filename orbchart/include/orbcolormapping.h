@@ -4,6 +4,7 @@
 #include "ctaestheticmapping.h"
 
 /// Maps a value onto a colour. The constructor with a value leaves `from` unset.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbColorMapping : public CTAestheticMapping {
 public:
   static constexpr XMLCh _UTF_colorMapping[] = u"colorMapping";

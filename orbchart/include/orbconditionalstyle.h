@@ -6,6 +6,7 @@
 class OrbStyle;
 
 /// A style for the data for which a condition holds. Condition and style can be changed but not removed.
+/// \ingroup style
 class ORBCHART_EXPORT OrbConditionalStyle : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_conditionalStyle[] = u"conditionalStyle";

@@ -16,6 +16,7 @@ class OrbLegend;
 ///
 /// Extensions stand first and locations after them; all else goes last, in the order of the adds. Extensions and
 /// locations do not look at control frames: beside these alone they go last, too.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbContainer : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_container[] = u"container";

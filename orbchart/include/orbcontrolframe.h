@@ -9,6 +9,7 @@
 class OrbExtension;
 
 /// A frame with a control, by which a viewer sets an attribute of another element.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbControlFrame : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_controlFrame[] = u"controlFrame";

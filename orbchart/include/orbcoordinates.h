@@ -23,6 +23,7 @@ class OrbTransposeTransform;
 /// One coordinate system of a graph: its dimensions, and the transforms that are applied to them. All of them stand
 /// mixed, in the order of their addition, save that a rectangular transform goes before an inset, and a polar or
 /// transposing one before both.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbCoordinates : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_coordinates[] = u"coordinates";

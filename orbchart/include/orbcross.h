@@ -16,6 +16,7 @@ class OrbVariableReference;
 /// Its operands are its child elements in document order, any number of them, which is the order of their addition. The
 /// getters give them family by family: how families interleave is read from the DOM. A removed blend, cross or nest
 /// loses its id; the other operands keep theirs.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbCross : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_cross[] = u"cross";

@@ -8,6 +8,7 @@
 class OrbStyle;
 
 /// One step of a style cycle: the styles that stand for it. An unknown child element raises at a load.
+/// \ingroup style
 class ORBCHART_EXPORT OrbCycle : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_cycle[] = u"cycle";

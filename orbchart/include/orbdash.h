@@ -9,6 +9,7 @@ class OrbDashMapping;
 class OrbStyleCycle;
 
 /// The dash pattern of the lines of a graphic element.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbDash : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_dash[] = u"dash";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Maps a value of the data onto a dash pattern.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbDashMapping : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_dashMapping[] = u"dashMapping";

@@ -11,6 +11,7 @@ class OrbFilter;
 
 /// A source whose rows stand in a database. A table with a condition, or a query, says which rows are read; nothing
 /// relates the attributes, and all may be set together. No connection is opened.
+/// \ingroup data
 class ORBCHART_EXPORT OrbDatabaseSource : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_databaseSource[] = u"databaseSource";

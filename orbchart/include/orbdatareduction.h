@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// The rows of a source are to be reduced in number.
+/// \ingroup data
 class ORBCHART_EXPORT OrbDataReduction : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_dataReduction[] = u"dataReduction";

@@ -10,6 +10,7 @@ class OrbDataReduction;
 class OrbFilter;
 
 /// A source whose rows stand in a delimited text file. The file is not opened: what is written is stored unchanged.
+/// \ingroup data
 class ORBCHART_EXPORT OrbDelimitedFileSource : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_delimitedFileSource[] = u"delimitedFileSource";

@@ -8,6 +8,7 @@
 class OrbValueMapEntry;
 
 /// A variable computed from others.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbDerivedVariable : public CTVariableType {
 public:
   static constexpr XMLCh _UTF_derivedVariable[] = u"derivedVariable";

@@ -9,6 +9,7 @@ class OrbFormat;
 
 /// One fact about the data of a graphic element, to stand in a label, and how it is printed. Inside a value description
 /// an element of this name is an OrbDescription2.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbDescription : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_description[] = u"description";

@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// The description of a group of values, as text. It is registered under the same key as an OrbDescription.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbDescription2 : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_description[] = u"description";

@@ -8,6 +8,7 @@ class OrbText;
 
 /// Texts and facts about the data of a graphic element, in the order in which a label shows them. The writer keeps its
 /// children on one line.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbDescriptionGroup : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_descriptionGroup[] = u"descriptionGroup";

@@ -13,6 +13,7 @@ class OrbCategoricalDomain;
 class OrbIntervalDomain;
 
 /// One dimension of a coordinate system, with its domain, its scale and its axes.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbDimension : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_dimension[] = u"dimension";

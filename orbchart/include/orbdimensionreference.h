@@ -6,6 +6,7 @@
 class OrbDimension;
 
 /// A reference to a dimension that stands elsewhere in the document. It has no id.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbDimensionReference : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_dimensionReference[] = u"dimensionReference";

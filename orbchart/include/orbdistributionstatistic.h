@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A theoretical distribution beside the rows of a cell.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbDistributionStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_distributionStatistic[] = u"distributionStatistic";

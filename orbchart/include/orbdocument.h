@@ -20,6 +20,7 @@ class OrbVisualization;
 /// xercesc::OutOfMemoryException by all. A parser of the host throws xercesc::SAXException and xercesc::XMLException
 /// beside. None of Xerces' four derives from std::exception, and OutOfMemoryException and DOMException derive from none
 /// of the others.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbDocument {
 public:
   /// A new, empty document, which goes with this object. Handlers of user data that the host put on its nodes are not
@@ -40,7 +41,25 @@ public:
   /// are refused. How deep the document is does not matter to the stack.
   ///
   /// References find only elements whose `id` was marked as an ID attribute: by a parser that validates, or by the
-  /// host with `DOMElement::setIdAttribute` before this call or after.
+  /// host with `DOMElement::setIdAttribute` before this call or after. ChartReader does all this; a host with a parser
+  /// of its own, which keeps the platform up, does it so:
+  ///
+  /// \code
+  /// xercesc::XercesDOMParser parser;
+  /// xercesc::HandlerBase errors; // throws; without one, a broken file is half a document or none
+  /// parser.setErrorHandler(&errors);
+  /// parser.parse("chart.xml");
+  /// xercesc::DOMDocument* dom = parser.getDocument();
+  ///
+  /// const xercesc::DOMNodeList* elements = dom->getElementsByTagName(u"*");
+  /// for (XMLSize_t i = 0; xercesc::DOMNode* node = elements->item(i); ++i) {
+  ///   auto* element = static_cast<xercesc::DOMElement*>(node);
+  ///   if (element->hasAttribute(u"id"))
+  ///     element->setIdAttribute(u"id", true);
+  /// }
+  ///
+  /// OrbDocument document(dom);
+  /// \endcode
   explicit OrbDocument(xercesc::DOMDocument* document);
 
   OrbDocument(const OrbDocument&) = delete;
@@ -56,6 +75,10 @@ public:
   std::string AsUTF8() const;
 
 private:
+  friend class ChartReader;
+  enum class Ownership { host, own };
+  OrbDocument(xercesc::DOMDocument* document, Ownership ownership);
+
   xercesc::DOMDocument* document_;
   OrbVisualization* visualization_;
   bool ownsDocument_;

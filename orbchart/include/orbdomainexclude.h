@@ -4,6 +4,7 @@
 #include "ctmodifier.h"
 
 /// The operation of a domain modifier that takes its values away.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbDomainExclude : public CTModifier {
 public:
   static constexpr XMLCh _UTF_domainExclude[] = u"domainExclude";

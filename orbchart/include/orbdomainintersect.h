@@ -4,6 +4,7 @@
 #include "ctmodifier.h"
 
 /// The operation of a domain modifier that keeps what is among its values.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbDomainIntersect : public CTModifier {
 public:
   static constexpr XMLCh _UTF_domainIntersect[] = u"domainIntersect";

@@ -7,6 +7,7 @@ class OrbCategoricalDomain;
 class OrbIntervalDomain;
 
 /// A domain takes up the values of another one.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbDomainReference : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_domainReference[] = u"domainReference";

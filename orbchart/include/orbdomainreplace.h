@@ -4,6 +4,7 @@
 #include "ctmodifier.h"
 
 /// The operation of a domain modifier that puts its values in place.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbDomainReplace : public CTModifier {
 public:
   static constexpr XMLCh _UTF_domainReplace[] = u"domainReplace";

@@ -4,6 +4,7 @@
 #include "ctmodifier.h"
 
 /// The operation of a domain modifier that adds its values.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbDomainUnion : public CTModifier {
 public:
   static constexpr XMLCh _UTF_domainUnion[] = u"domainUnion";

@@ -15,6 +15,7 @@ class OrbVariableReference;
 ///
 /// Its operands are its child elements in document order, any number of them, which is the order of their addition. The
 /// getters give them family by family: how families interleave is read from the DOM. A removed operand keeps its id.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbDot : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_dot[] = u"dot";

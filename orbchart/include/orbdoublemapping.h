@@ -4,6 +4,7 @@
 #include "ctaestheticmapping.h"
 
 /// Maps a value onto a number. The constructor with a value leaves `from` unset.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbDoubleMapping : public CTAestheticMapping {
 public:
   static constexpr XMLCh _UTF_doubleMapping[] = u"doubleMapping";

@@ -6,6 +6,7 @@
 class CTElementType;
 
 /// Lets the viewer drag the marks of a graphic element.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbDragElement : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_dragElement[] = u"dragElement";

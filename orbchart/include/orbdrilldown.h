@@ -9,6 +9,7 @@ class CTVariableType;
 class OrbVariableReference;
 
 /// Follows a function or a link when the viewer acts on a target, and passes the values of the variables on.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbDrillDown : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_drillDown[] = u"drillDown";

@@ -4,6 +4,7 @@
 #include "ctelementtype.h"
 
 /// The edges of a network.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbEdge : public CTElementType {
 public:
   static constexpr XMLCh _UTF_edge[] = u"edge";

@@ -7,6 +7,7 @@ class CTElementType;
 class CTVariableType;
 
 /// Ties one graphic element to a variable, within a variable reference. A load does not look at its children.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbElementVariableReference : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_elementVariableReference[] = u"elementVariableReference";

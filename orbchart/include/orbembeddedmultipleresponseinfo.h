@@ -5,6 +5,7 @@
 
 /// Describes a multiple response variable of an embedded table. No class of the library makes it or takes it as a
 /// child: a host sets it over an element of its own.
+/// \ingroup data
 class ORBCHART_EXPORT OrbEmbeddedMultipleResponseInfo : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_embeddedMultipleResponseInfo[] = u"embeddedMultipleResponseInfo";

@@ -16,6 +16,7 @@ class OrbTypes;
 
 /// A source that carries its data in the document: one text with the names of the variables, one with their types,
 /// and one for each row.
+/// \ingroup data
 class ORBCHART_EXPORT OrbEmbeddedSource : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_embeddedSource[] = u"embeddedSource";

@@ -19,6 +19,7 @@ class OrbException;
 ///
 /// An entry without a source file ends behind its message, and the next one follows on the same line. A log that
 /// cannot be written is without effect.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbErrorHandler {
 public:
   OrbErrorHandler();

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// An evaluation at a point.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbEvaluateStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_evaluateStatistic[] = u"evaluateStatistic";

@@ -7,6 +7,7 @@
 #include <string>
 
 /// An error with its message and the place in the source that raised it.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbException : public std::exception {
 public:
   OrbException();

@@ -4,6 +4,7 @@
 #include "ctvariabletype.h"
 
 /// A variable that an expression defines.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbExpressionVariable : public CTVariableType {
 public:
   static constexpr XMLCh _UTF_expressionVariable[] = u"expressionVariable";

@@ -6,6 +6,7 @@
 /// Free attributes that the host keeps at an element. What they mean is the host's affair.
 ///
 /// Children are not looked at: they stay in the document and have no wrappers.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbExtension : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_extension[] = u"extension";

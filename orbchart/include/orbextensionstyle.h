@@ -4,6 +4,7 @@
 #include "orbextension.h"
 
 /// The extension of a style: it records where the style came from.
+/// \ingroup style
 class ORBCHART_EXPORT OrbExtensionStyle : public OrbExtension {
 public:
   static constexpr XMLCh _UTF_convertedFrom[] = u"convertedFrom";

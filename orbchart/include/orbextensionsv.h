@@ -4,6 +4,7 @@
 #include "orbextension.h"
 
 /// The extension of a variable: it holds a statistic that was computed of the variable.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbExtensionSV : public OrbExtension {
 public:
   static constexpr XMLCh _UTF_statistic_numberOfCases[] = u"numberOfCases";

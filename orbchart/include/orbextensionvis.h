@@ -13,6 +13,7 @@ class OrbStyleCycle;
 ///
 /// Numbered operations write and read the attribute whose name is a stem with the number behind it, whatever the
 /// number: `title1` and the title of number 1 are one attribute.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbExtensionVis : public OrbExtension {
 public:
   static constexpr XMLCh _UTF_title1[] = u"title1";

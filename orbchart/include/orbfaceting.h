@@ -41,6 +41,7 @@ class OrbWhen;
 /// statistics and `attach` stand before the first of them: either group is in the order of addition, whatever the kind.
 /// The getters give the terms family by family: how families interleave is read from the DOM. A removed child keeps its
 /// id.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbFaceting : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_faceting[] = u"faceting";

@@ -12,6 +12,7 @@ class OrbTableLayout;
 /// How the panels of a faceted graph are laid out: as tables, by the levels of the faceting, and cell by cell.
 ///
 /// The children stand in the order of the adds, whatever their kind.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbFacetLayout : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_facetLayout[] = u"facetLayout";

@@ -9,6 +9,7 @@ class OrbAxis;
 class OrbStyle;
 
 /// One level of the facets of a graph, with the axes that show it.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbFacetLevel : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_facetLevel[] = u"facetLevel";

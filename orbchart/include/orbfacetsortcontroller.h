@@ -6,6 +6,7 @@
 class OrbGraph;
 
 /// Lets the viewer sort the facets of a graph anew.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbFacetSortController : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_facetSortController[] = u"facetSortController";

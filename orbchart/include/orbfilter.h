@@ -8,6 +8,7 @@ class OrbIntervalDomain;
 
 /// Picks the rows of a source whose variable lies inside a domain, or outside of it. A filter has no children: a load
 /// raises the text of ChildNotFoundError on a child element of any name.
+/// \ingroup data
 class ORBCHART_EXPORT OrbFilter : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_filter[] = u"filter";

@@ -6,6 +6,7 @@
 /// A magnifying lens at a point of the space.
 ///
 /// An absent number reads as 0.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbFishEyeTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_fishEyeTransform[] = u"fishEyeTransform";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A node of a graph layout with a place of its own.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbFixedNode : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_fixedNode[] = u"fixedNode";

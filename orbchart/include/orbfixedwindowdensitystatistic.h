@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Estimates the density of the rows of a cell, in a window of fixed size.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbFixedWindowDensityStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_fixedWindowDensityStatistic[] = u"fixedWindowDensityStatistic";

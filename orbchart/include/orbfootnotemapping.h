@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Maps a value of the data onto a footnote.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbFootnoteMapping : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_footnoteMapping[] = u"footnoteMapping";

@@ -10,6 +10,7 @@ class OrbFootnoteMapping;
 /// The footnotes of labels.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbFootnotes : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_footnotes[] = u"footnotes";

@@ -12,6 +12,7 @@ class OrbUnitRule;
 /// what stands in the place of certain values. The library stores the settings and formats nothing by them. A load
 /// passes over child elements that it does not know. Children stand in the order of addition, those of the base among
 /// them.
+/// \ingroup style
 class ORBCHART_EXPORT OrbFormat : public CTFormatType {
 public:
   static constexpr XMLCh _UTF_format[] = u"format";

@@ -8,6 +8,7 @@
 class OrbFormat;
 
 /// Maps a value onto the formats that it holds. An unknown child element raises at a load.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbFormatMapping : public CTAestheticMapping {
 public:
   static constexpr XMLCh _UTF_formatMapping[] = u"formatMapping";

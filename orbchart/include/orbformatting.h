@@ -10,6 +10,7 @@ class OrbFormatMapping;
 /// The formats of labels by their values.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbFormatting : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_formatting[] = u"formatting";

@@ -4,6 +4,7 @@
 #include "ctguidetype.h"
 
 /// A frame around a graph.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbFrameGuide : public CTGuideType {
 public:
   static constexpr XMLCh _UTF_frameGuide[] = u"frameGuide";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Applies a function along one dimension.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbFunctionalTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_functionalTransform[] = u"functionalTransform";

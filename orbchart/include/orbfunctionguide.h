@@ -6,6 +6,7 @@
 class OrbCoordinates;
 
 /// The curve of a function, drawn in segments.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbFunctionGuide : public CTGuideType {
 public:
   static constexpr XMLCh _UTF_functionGuide[] = u"functionGuide";

@@ -34,6 +34,7 @@ class OrbStyle;
 /// The add operations keep the children in bands: extensions, locations, coordinates, the faceting, the facet layout,
 /// the graphic elements, the guides. Within a band a new child goes last, whatever its kind. A load takes any order and
 /// any number.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbGraph : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_graph[] = u"graph";

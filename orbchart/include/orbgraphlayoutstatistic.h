@@ -17,6 +17,7 @@ class OrbSwap;
 /// Gives the nodes of a graph their places; its edges are the rows. In the document the initial arrangements come
 /// first, then the improvement steps in the order of addition, then the fixed nodes. An unknown child element raises at
 /// a load.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbGraphLayoutStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_graphLayoutStatistic[] = u"graphLayoutStatistic";

@@ -10,6 +10,7 @@ class OrbStyle;
 class OrbStyleReference;
 
 /// A grid line, drawn from the ticks of an axis.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbGridline : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_gridline[] = u"gridline";

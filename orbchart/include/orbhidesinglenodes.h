@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Hides the nodes of a graph layout that have no link.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbHideSingleNodes : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_hideSingleNodes[] = u"hideSingleNodes";

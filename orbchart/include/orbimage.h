@@ -11,6 +11,7 @@ class OrbStyleCycle;
 /// The image of a graphic element.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbImage : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_image[] = u"image";

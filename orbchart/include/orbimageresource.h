@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// One image that a document uses, by its name.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbImageResource : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_imageResource[] = u"imageResource";

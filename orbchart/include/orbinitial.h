@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// The arrangement of nodes that a graph layout starts from.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbInitial : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_initial[] = u"initial";

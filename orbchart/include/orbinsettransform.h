@@ -6,6 +6,7 @@
 /// Moves the graph into an inset rectangle, given by its bounds along each dimension.
 ///
 /// An absent number reads as 0.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbInsetTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_insetTransform[] = u"insetTransform";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Maps a value of the data onto a number.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbIntegerMapping : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_integerMapping[] = u"integerMapping";

@@ -10,6 +10,7 @@ class OrbIntersectWhere;
 class OrbWhere;
 
 /// One term of a union: what all its selections select.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbIntersect : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_intersect[] = u"intersect";

@@ -6,6 +6,7 @@
 class CTVariableType;
 
 /// A condition on two variables together.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbIntersectWhere : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_intersectWhere[] = u"intersectWhere";

@@ -4,6 +4,7 @@
 #include "ctelementtype.h"
 
 /// Intervals, drawn as bars.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbInterval : public CTElementType {
 public:
   static constexpr XMLCh _UTF_interval[] = u"interval";

@@ -14,6 +14,7 @@ class OrbVariableReference;
 
 /// A domain that gives the ranges of a variable that count. It may take up the values of other domains and of
 /// variables.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbIntervalDomain : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_intervalDomain[] = u"intervalDomain";

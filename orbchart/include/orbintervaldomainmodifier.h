@@ -13,6 +13,7 @@ class OrbSimpleSort;
 class OrbStatisticSort;
 
 /// A change of the values of a domain of intervals, by operations of four kinds. They stand in the order of the adds.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbIntervalDomainModifier : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_intervalDomainModifier[] = u"intervalDomainModifier";

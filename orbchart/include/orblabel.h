@@ -4,6 +4,7 @@
 #include "ctlabeltype.h"
 
 /// The label of an axis, of major ticks, a guide, a legend, a table layout or a label frame.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbLabel : public CTLabelType {
 public:
   static constexpr XMLCh _UTF_label[] = u"label";

@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// The columns of an embedded source that hold labels, opaque to the library.
+/// \ingroup data
 class ORBCHART_EXPORT OrbLabelColumns : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_labelColumns[] = u"labelColumns";

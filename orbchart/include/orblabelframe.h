@@ -15,6 +15,7 @@ class OrbParagraph;
 ///
 /// Extensions stand first, then the locations, then the label. Control frames and paragraphs go last, and nothing looks
 /// at them: beside these alone all goes last.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbLabelFrame : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_labelFrame[] = u"labelFrame";

@@ -28,6 +28,7 @@ class OrbVisibility;
 /// finds expression variables as well, its getDomain() tries interval domains first, and its scale and summary
 /// statistic are those of the load, with wrappers of their own. An unknown child element raises at a load. The children
 /// without a limit stand in the order of addition, behind the scale, the summary statistic and the format.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbLabeling : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_labeling[] = u"labeling";

@@ -4,6 +4,7 @@
 #include "ctaesthetic.h"
 
 /// Where a label stands in one direction.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbLabelLocation : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_labelLocation[] = u"labelLocation";

@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// The labels of an embedded source, opaque to the library.
+/// \ingroup data
 class ORBCHART_EXPORT OrbLabels : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_labels[] = u"labels";

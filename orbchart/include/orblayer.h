@@ -7,6 +7,7 @@ class CTVariableType;
 
 /// One layer of a faceting: a variable, and one value of it if only that is meant. A load does not look at its
 /// children.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbLayer : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_layer[] = u"layer";

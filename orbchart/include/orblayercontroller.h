@@ -13,6 +13,7 @@ class OrbSavFileSource;
 class OrbUserSource;
 
 /// Lets the viewer choose among layers.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbLayerController : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_layerController[] = u"layerController";

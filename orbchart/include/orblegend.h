@@ -13,6 +13,7 @@ class OrbLegendTarget;
 /// A legend, which stands beside the graphs under the root or in a container. Its targets say what it explains.
 ///
 /// Extensions stand first, then the locations, the label and the targets.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbLegend : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_legend[] = u"legend";

@@ -8,6 +8,7 @@ class OrbCategoricalDomain;
 class OrbIntervalDomain;
 
 /// One thing that a legend explains.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbLegendTarget : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_legendTarget[] = u"legendTarget";

@@ -4,6 +4,7 @@
 #include "ctelementtype.h"
 
 /// A line through the data.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbLine : public CTElementType {
 public:
   static constexpr XMLCh _UTF_line[] = u"line";

@@ -6,6 +6,7 @@
 class OrbCoordinates;
 
 /// A line laid over a graph. Its coordinates are free text, never numbers.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbLineGuide : public CTGuideType {
 public:
   static constexpr XMLCh _UTF_lineGuide[] = u"lineGuide";

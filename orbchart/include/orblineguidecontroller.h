@@ -4,6 +4,7 @@
 #include "ctinteraction.h"
 
 /// Lets the viewer add and move line guides.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbLineGuideController : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_lineGuideController[] = u"lineGuideController";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Draws links between points by a rule.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbLinkStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_linkStatistic[] = u"linkStatistic";

@@ -11,6 +11,7 @@ class OrbLegend;
 /// Fixes one edge or size of the element that holds it.
 ///
 /// Children are not looked at: they stay in the document and have no wrappers.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbLocation : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_location[] = u"location";

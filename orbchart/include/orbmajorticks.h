@@ -12,6 +12,7 @@ class OrbStyle;
 
 /// The major ticks of an axis with their labels. A load takes a label and a format side by side; then neither can be
 /// added.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbMajorTicks : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_majorTicks[] = u"majorTicks";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Projects the globe onto the plane.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbMapProjection : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_mapProjection[] = u"mapProjection";

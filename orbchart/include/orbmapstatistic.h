@@ -10,6 +10,7 @@ class OrbCategories;
 class OrbSourceVariable;
 
 /// Joins the rows of a cell to the features of a map file by a key. An unknown child element raises at a load.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbMapStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_mapStatistic[] = u"mapStatistic";

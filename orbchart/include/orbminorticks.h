@@ -9,6 +9,7 @@ class OrbGridline;
 class OrbStyle;
 
 /// The minor ticks of an axis, between the major ones.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbMinorTicks : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_minorTicks[] = u"minorTicks";

@@ -4,6 +4,7 @@
 #include "ctimprovelayout.h"
 
 /// Improves a graph layout by moving nodes.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbMove : public CTImproveLayout {
 public:
   static constexpr XMLCh _UTF_move[] = u"move";

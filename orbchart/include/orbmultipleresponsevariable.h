@@ -8,6 +8,7 @@ class OrbVariableReference;
 /// A set of variables that together hold the answers to one question. No reference finds it.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbMultipleResponseVariable : public CTVariableType {
 public:
   static constexpr XMLCh _UTF_multipleResponseVariable[] = u"multipleResponseVariable";

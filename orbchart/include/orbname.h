@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// One name, under OrbVariableName.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbName : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_name[] = u"name";

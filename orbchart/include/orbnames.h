@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// The variable names of an embedded source, separated as the fields of a row are; the library does not read them.
+/// \ingroup data
 class ORBCHART_EXPORT OrbNames : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_names[] = u"names";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Estimates the density of the rows of a cell, in a window of a number of neighbours.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbNearestNeighborDensityStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_nearestNeighborDensityStatistic[] = u"nearestNeighborDensityStatistic";

@@ -6,6 +6,7 @@
 /// An oblique projection of the space.
 ///
 /// An absent number reads as 0.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbObliqueTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_obliqueTransform[] = u"obliqueTransform";

@@ -4,6 +4,7 @@
 #include "ctaesthetic.h"
 
 /// How far a graphic element is moved.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbOffset : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_offset[] = u"offset";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// How a paragraph of a label frame is set.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbParagraph : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_paragraph[] = u"paragraph";

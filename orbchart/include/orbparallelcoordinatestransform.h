@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Draws the dimensions as parallel axes. It has nothing but its id.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbParallelCoordinatesTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_parallelCoordinatesTransform[] = u"parallelCoordinatesTransform";

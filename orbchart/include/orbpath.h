@@ -4,6 +4,7 @@
 #include "ctelementtype.h"
 
 /// A path through the data.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbPath : public CTElementType {
 public:
   static constexpr XMLCh _UTF_path[] = u"path";

@@ -9,6 +9,7 @@ class OrbIntegerMapping;
 class OrbStyleCycle;
 
 /// The fill pattern of a graphic element.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbPattern : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_pattern[] = u"pattern";

@@ -6,6 +6,7 @@
 class CTVariableType;
 
 /// Links the patterns of a sequence of items.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbPatternLinkStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_patternLinkStatistic[] = u"patternLinkStatistic";

@@ -4,6 +4,7 @@
 #include "ctinteraction.h"
 
 /// Lets the viewer exchange the variables of the chart's dimensions.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbPivotController : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_pivotController[] = u"pivotController";

@@ -4,6 +4,7 @@
 #include "ctguidetype.h"
 
 /// A plane laid over a graph.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbPlaneGuide : public CTGuideType {
 public:
   static constexpr XMLCh _UTF_planeGuide[] = u"planeGuide";

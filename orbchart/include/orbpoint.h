@@ -4,6 +4,7 @@
 #include "ctelementtype.h"
 
 /// Points, each drawn as a symbol.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbPoint : public CTElementType {
 public:
   static constexpr XMLCh _UTF_point[] = u"point";

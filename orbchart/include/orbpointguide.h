@@ -6,6 +6,7 @@
 class OrbCoordinates;
 
 /// A point laid over a graph. Its coordinates are free text, never numbers.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbPointGuide : public CTGuideType {
 public:
   static constexpr XMLCh _UTF_pointGuide[] = u"pointGuide";

@@ -4,6 +4,7 @@
 #include "ctimprovelayout.h"
 
 /// Improves a graph layout by polarizing it. It adds nothing to what all steps have.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbPolarize : public CTImproveLayout {
 public:
   static constexpr XMLCh _UTF_polarize[] = u"polarize";

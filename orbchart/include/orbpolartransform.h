@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Turns the space into polar coordinates. The coordinates keep it ahead of a rectangular transform and of an inset.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbPolarTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_polarTransform[] = u"polarTransform";

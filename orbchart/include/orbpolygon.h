@@ -4,6 +4,7 @@
 #include "ctelementtype.h"
 
 /// Polygons.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbPolygon : public CTElementType {
 public:
   static constexpr XMLCh _UTF_polygon[] = u"polygon";

@@ -9,6 +9,7 @@ class OrbTokenMapping;
 
 /// Shows a text when the viewer points at a mark. The text is made of a template of tokens, each filled from a
 /// variable.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbPopup : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_popup[] = u"popup";

@@ -4,6 +4,7 @@
 #include "ctcoordinate.h"
 
 /// A coordinate of a graphic element, one of any number.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbPosition : public CTCoordinate {
 public:
   static constexpr XMLCh _UTF_position[] = u"position";

@@ -4,6 +4,7 @@
 #include "ctimprovelayout.h"
 
 /// Improves a graph layout by random changes.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbRandomize : public CTImproveLayout {
 public:
   static constexpr XMLCh _UTF_randomize[] = u"randomize";

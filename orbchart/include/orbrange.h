@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A range of values.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbRange : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_range[] = u"range";

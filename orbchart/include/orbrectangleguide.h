@@ -6,6 +6,7 @@
 class OrbCoordinates;
 
 /// A rectangle laid over a graph. Its coordinates are free text, never numbers.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbRectangleGuide : public CTGuideType {
 public:
   static constexpr XMLCh _UTF_rectangleGuide[] = u"rectangleGuide";

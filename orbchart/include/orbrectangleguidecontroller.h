@@ -4,6 +4,7 @@
 #include "ctinteraction.h"
 
 /// Lets the viewer add and move rectangle guides.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbRectangleGuideController : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_rectangleGuideController[] = u"rectangleGuideController";

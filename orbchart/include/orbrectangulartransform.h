@@ -7,6 +7,7 @@
 /// shifted. The coordinates keep it ahead of an inset and behind a polar or transposing transform.
 ///
 /// An absent number reads as 0.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbRectangularTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_rectangularTransform[] = u"rectangularTransform";

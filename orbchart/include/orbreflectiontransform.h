@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Reflects the space along one dimension.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbReflectionTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_reflectionTransform[] = u"reflectionTransform";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A region around a fit to the rows of a cell.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbRegionStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_regionStatistic[] = u"regionStatistic";

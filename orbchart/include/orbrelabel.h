@@ -7,6 +7,7 @@
 ///
 /// The constructors do not register the wrapper on its element: unless init() is called, the element carries no
 /// wrapper.
+/// \ingroup style
 class ORBCHART_EXPORT OrbRelabel : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_relabel[] = u"relabel";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A replication of rows.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbReplicate : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_replicate[] = u"replicate";

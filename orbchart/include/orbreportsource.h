@@ -12,6 +12,7 @@ class OrbReportVariable;
 
 /// A data set of a report, with its variables and their values. All children stand in the order of addition. An unknown
 /// child element raises at a load.
+/// \ingroup data
 class ORBCHART_EXPORT OrbReportSource : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_reportSource[] = u"reportSource";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A value of a variable of a report.
+/// \ingroup data
 class ORBCHART_EXPORT OrbReportValue : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_reportValue[] = u"reportValue";

@@ -8,6 +8,7 @@
 class OrbReportValue;
 
 /// A variable of a report, with its values. An unknown child element raises at a load.
+/// \ingroup data
 class ORBCHART_EXPORT OrbReportVariable : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_reportVariable[] = u"reportVariable";

@@ -12,6 +12,7 @@ class OrbFilter;
 /// Takes the rows of another source and turns them from one shape into another. No parent holds it: a host makes it
 /// over an element of its own. The constructor with one argument refuses an aggregate among the children, which the
 /// other takes.
+/// \ingroup data
 class ORBCHART_EXPORT OrbReshapeSource : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_reshapeSource[] = u"reshapeSource";

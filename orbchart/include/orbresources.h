@@ -8,6 +8,7 @@
 class OrbImageResource;
 
 /// The images that a document uses.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbResources : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_resources[] = u"resources";

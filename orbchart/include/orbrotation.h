@@ -4,6 +4,7 @@
 #include "ctaesthetic.h"
 
 /// The rotation of a graphic element, in degrees.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbRotation : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_rotation[] = u"rotation";

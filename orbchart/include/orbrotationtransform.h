@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Rotates the space by an angle about one dimension.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbRotationTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_rotationTransform[] = u"rotationTransform";

@@ -8,6 +8,7 @@
 ///
 /// A field is a run of characters other than ";", blanks included. There are no empty fields: several ";" in a row are
 /// one separator, and one at an end is nothing.
+/// \ingroup data
 class ORBCHART_EXPORT OrbRow : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_row[] = u"row";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Keeps the same ratio on the dimensions.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbSameRatioTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_sameRatioTransform[] = u"sameRatioTransform";

@@ -10,6 +10,7 @@ class OrbDataReduction;
 class OrbFilter;
 
 /// A source whose rows stand in a statistics data file, which has a name, a URL or both. The file is not opened.
+/// \ingroup data
 class ORBCHART_EXPORT OrbSavFileSource : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_savFileSource[] = u"savFileSource";

@@ -5,6 +5,7 @@
 
 /// How data values map onto a dimension, an aesthetic or a labeling. The library ties no attribute to a method or a
 /// distribution: what is written is stored.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbScale : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_scale[] = u"scale";

@@ -4,6 +4,7 @@
 #include "ctelementtype.h"
 
 /// A schematic summary of a distribution, such as a box plot.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbSchema : public CTElementType {
 public:
   static constexpr XMLCh _UTF_schema[] = u"schema";

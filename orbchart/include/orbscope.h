@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// The scope of a variable name, as text.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbScope : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_scope[] = u"scope";

@@ -15,6 +15,7 @@ class OrbUnion;
 /// Sets properties of the cells of a layout that its unions choose.
 ///
 /// The properties stand before the unions, in the order of the adds, whatever their kind.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbSetCellProperties : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_setCellProperties[] = u"setCellProperties";

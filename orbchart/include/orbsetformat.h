@@ -8,6 +8,7 @@
 class OrbFormat;
 
 /// Sets the format of the chosen cells.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbSetFormat : public CTCellProperty {
 public:
   static constexpr XMLCh _UTF_setFormat[] = u"setFormat";

@@ -6,6 +6,7 @@
 class OrbStyle;
 
 /// Sets the style of the frame of the chosen cells.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbSetFrameStyle : public CTCellProperty {
 public:
   static constexpr XMLCh _UTF_setFrameStyle[] = u"setFrameStyle";

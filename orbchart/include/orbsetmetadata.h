@@ -4,6 +4,7 @@
 #include "ctcellproperty.h"
 
 /// Sets a key and its value on the chosen cells.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbSetMetaData : public CTCellProperty {
 public:
   static constexpr XMLCh _UTF_setMetaData[] = u"setMetaData";

@@ -4,6 +4,7 @@
 #include "ctcellproperty.h"
 
 /// Sets a page break at the chosen cells.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbSetPageBreak : public CTCellProperty {
 public:
   static constexpr XMLCh _UTF_setPageBreak[] = u"setPageBreak";

@@ -6,6 +6,7 @@
 class OrbStyle;
 
 /// Sets the style of the chosen cells.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbSetStyle : public CTCellProperty {
 public:
   static constexpr XMLCh _UTF_setStyle[] = u"setStyle";

@@ -9,6 +9,7 @@ class OrbStyleCycle;
 class OrbSymbolMapping;
 
 /// The symbol of a graphic element.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbShape : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_shape[] = u"shape";

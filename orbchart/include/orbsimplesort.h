@@ -10,6 +10,7 @@ class OrbSortMove;
 
 /// Sorts categories by the data, naturally, or by a list. The moves stand before the lists. An unknown child element
 /// raises at a load.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbSimpleSort : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_simpleSort[] = u"simpleSort";

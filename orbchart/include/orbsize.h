@@ -10,6 +10,7 @@ class OrbLengthMapping;
 class OrbStyleCycle;
 
 /// The size of a graphic element.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbSize : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_size[] = u"size";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Smooths the rows of a cell by a model.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbSmoothStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_smoothStatistic[] = u"smoothStatistic";

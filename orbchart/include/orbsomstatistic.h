@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Lays the rows of a cell out on a self-organising map. It has no operations for an id.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbSOMStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_SOMStatistic[] = u"SOMStatistic";

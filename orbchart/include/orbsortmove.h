@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Moves a category of a sort to the front or to the back.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbSortMove : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_sortMove[] = u"sortMove";

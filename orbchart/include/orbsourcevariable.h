@@ -4,6 +4,7 @@
 #include "ctvariabletype.h"
 
 /// A variable read from a source.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbSourceVariable : public CTVariableType {
 public:
   static constexpr XMLCh _UTF_sourceVariable[] = u"sourceVariable";

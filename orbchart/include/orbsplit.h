@@ -4,6 +4,7 @@
 #include "ctaesthetic.h"
 
 /// Splits a graphic element by a variable.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbSplit : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_split[] = u"split";

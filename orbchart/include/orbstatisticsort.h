@@ -12,6 +12,7 @@ class OrbUnion;
 
 /// Sorts categories by a summary of a variable. Moves and unions stand in the order of addition. An unknown child
 /// element raises at a load.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbStatisticSort : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_statisticSort[] = u"statisticSort";

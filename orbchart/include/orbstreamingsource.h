@@ -10,6 +10,7 @@ class OrbDataReduction;
 class OrbFilter;
 
 /// A source whose rows come as a stream. No connection is opened.
+/// \ingroup data
 class ORBCHART_EXPORT OrbStreamingSource : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_streamingSource[] = u"streamingSource";

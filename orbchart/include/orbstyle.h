@@ -18,6 +18,7 @@ class OrbExtensionStyle;
 /// The triples `size`, `width`, `height` and `font-size` hold a preferred, a minimum and a maximum length in one text,
 /// separated by ";". The setter of a triple keeps the field that stands there where it is given a null or empty text,
 /// and writes two ";" always. The getter is as getPreferredMinMax(): it appends to what it is given.
+/// \ingroup style
 class ORBCHART_EXPORT OrbStyle : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_style[] = u"style";

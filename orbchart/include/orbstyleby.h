@@ -6,6 +6,7 @@
 class OrbStyleCycle;
 
 /// The style of a graphic element.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbStyleBy : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_styleBy[] = u"styleBy";

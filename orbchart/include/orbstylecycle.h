@@ -10,6 +10,7 @@ class OrbExtension;
 
 /// An ordered list of styles that values run through in turn; aesthetics refer to it by its id. An unknown child
 /// element raises at a load.
+/// \ingroup style
 class ORBCHART_EXPORT OrbStyleCycle : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_styleCycle[] = u"styleCycle";

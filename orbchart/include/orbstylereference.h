@@ -6,6 +6,7 @@
 class OrbStyle;
 
 /// A bare reference to a style.
+/// \ingroup style
 class ORBCHART_EXPORT OrbStyleReference : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_styleReference[] = u"styleReference";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A summary of the rows of a cell by one method.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbSummaryStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_summaryStatistic[] = u"summaryStatistic";

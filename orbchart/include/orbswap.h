@@ -4,6 +4,7 @@
 #include "ctimprovelayout.h"
 
 /// Improves a graph layout by swapping nodes. It adds nothing to what all steps have.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbSwap : public CTImproveLayout {
 public:
   static constexpr XMLCh _UTF_swap[] = u"swap";

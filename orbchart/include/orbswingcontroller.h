@@ -6,6 +6,7 @@
 class CTFrame;
 
 /// Lets the viewer start a function that acts on a frame.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbSwingController : public CTInteraction {
 public:
   static constexpr XMLCh _UTF_swingController[] = u"swingController";

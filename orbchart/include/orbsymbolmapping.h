@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Maps a value of the data onto a symbol.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbSymbolMapping : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_symbolMapping[] = u"symbolMapping";

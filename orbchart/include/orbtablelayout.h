@@ -9,6 +9,7 @@ class OrbLabel;
 class OrbStyle;
 
 /// The layout of the panels of a graph as a table, with its labels.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbTableLayout : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_tableLayout[] = u"tableLayout";

@@ -6,6 +6,7 @@
 class CTVariableType;
 
 /// Lays words out as a cloud.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbTagCloudStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_tagCloudStatistic[] = u"tagCloudStatistic";

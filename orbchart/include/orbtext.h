@@ -4,6 +4,7 @@
 #include "cttexttype.h"
 
 /// A literal text in a label or a group of descriptions.
+/// \ingroup guides
 class ORBCHART_EXPORT OrbText : public CTTextType {
 public:
   static constexpr XMLCh _UTF_text[] = u"text";

@@ -10,6 +10,7 @@ class OrbFormat;
 class OrbSummaryStatistic;
 
 /// Says which variable fills a token of a pop-up's template, and how. An unknown child element raises at a load.
+/// \ingroup interaction
 class ORBCHART_EXPORT OrbTokenMapping : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_tokenMapping[] = u"tokenMapping";

@@ -9,6 +9,7 @@
 class OrbDoubleMapping;
 
 /// The transparency of a graphic element.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbTransparency : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_transparency[] = u"transparency";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Swaps two dimensions. The coordinates keep it ahead of a rectangular transform and of an inset.
+/// \ingroup coordinates
 class ORBCHART_EXPORT OrbTransposeTransform : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_transposeTransform[] = u"transposeTransform";

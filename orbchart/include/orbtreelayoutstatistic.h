@@ -7,6 +7,7 @@ class CTVariableType;
 class OrbSourceVariable;
 
 /// Gives the items of a tree their places; the tree is given by the pairs of an item and its parent.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbTreeLayoutStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_treeLayoutStatistic[] = u"treeLayoutStatistic";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Summarises the rows of a cell as a box plot shows them.
+/// \ingroup statistics
 class ORBCHART_EXPORT OrbTukeyStatistic : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_tukeyStatistic[] = u"tukeyStatistic";

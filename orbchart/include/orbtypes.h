@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// The variable types of an embedded source, separated as the fields of a row are; the library does not read them.
+/// \ingroup data
 class ORBCHART_EXPORT OrbTypes : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_types[] = u"types";

@@ -9,6 +9,7 @@
 /// A constant is named after its spelling, with an underscore in front and with "-" and "." as "_"; two are named after
 /// their use instead: _implFeatures and _namespaceURI. The constants stand in the alphabetical order of their
 /// spellings, upper and lower case alike.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbUni {
 public:
   static constexpr XMLCh _addChildSizes[] = u"addChildSizes";

@@ -8,6 +8,7 @@
 class OrbIntersect;
 
 /// A union of selections: what any of its terms selects.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbUnion : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_union[] = u"union";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Scales values by a factor, and says what stands around them then.
+/// \ingroup style
 class ORBCHART_EXPORT OrbUnitRule : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_unitRule[] = u"unitRule";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// An operand without content. A load does not look at its children.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbUnity : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_unity[] = u"unity";

@@ -10,6 +10,7 @@ class OrbDataReduction;
 class OrbFilter;
 
 /// A source that the host fills at run time; its id names it.
+/// \ingroup data
 class ORBCHART_EXPORT OrbUserSource : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_userSource[] = u"userSource";

@@ -6,6 +6,7 @@
 
 /// The XML platform is counted: each start wants one stop, and each OrbDocument makes a pair of its own. Xerces counts
 /// without a lock, so that starts and stops, those of an OrbDocument included, must not meet in two threads.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbUtility {
 public:
   /// Starts the platform. An XMLException goes to the log and no further.

@@ -5,6 +5,7 @@
 #include "orbbaseelement.h"
 
 /// One value, under OrbValueDescription.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbValue : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_value[] = u"value";

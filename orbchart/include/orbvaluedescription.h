@@ -10,6 +10,7 @@ class OrbValue;
 
 /// A group of values with their descriptions. No class of the library makes it or takes it as a child: a host sets it
 /// over an element of its own.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbValueDescription : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_valueDescription[] = u"valueDescription";

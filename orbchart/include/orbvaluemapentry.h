@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// Maps a value of the variables that a derived variable depends on onto one of its own.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbValueMapEntry : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_valueMapEntry[] = u"valueMapEntry";

@@ -10,6 +10,7 @@ class OrbScope;
 
 /// Names of a variable with the scopes in which they hold. No class of the library makes it or takes it as a child: a
 /// host sets it over an element of its own.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbVariableName : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_variableName[] = u"variableName";

@@ -9,6 +9,7 @@ class CTVariableType;
 class OrbElementVariableReference;
 
 /// A reference to one variable: an operand of the graph algebra, and a child of what works on a list of variables.
+/// \ingroup variables
 class ORBCHART_EXPORT OrbVariableReference : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_variableReference[] = u"variableReference";

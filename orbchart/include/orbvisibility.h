@@ -10,6 +10,7 @@ class OrbBooleanMapping;
 /// Whether a graphic element is seen.
 ///
 /// A load raises the text of ChildNotFoundError on every child element that is not its own, those of the base included.
+/// \ingroup aesthetics
 class ORBCHART_EXPORT OrbVisibility : public CTAesthetic {
 public:
   static constexpr XMLCh _UTF_visibility[] = u"visibility";

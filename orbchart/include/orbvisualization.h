@@ -50,6 +50,7 @@ class OrbUserSource;
 /// interaction and the resources keep no band: they go to the very end, whatever stands there. What stands before the
 /// styles does not look at the elements of interaction other than `popup` and `drillDown`. Nothing is counted, and a
 /// load takes any order.
+/// \ingroup documents
 class ORBCHART_EXPORT OrbVisualization : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_visualization[] = u"visualization";

@@ -4,6 +4,7 @@
 #include "orbbaseelement.h"
 
 /// A condition that holds a summary of the rows against two bounds.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbWhen : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_when[] = u"when";

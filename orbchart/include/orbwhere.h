@@ -6,6 +6,7 @@
 class CTVariableType;
 
 /// A condition on the values of one variable. It may hold both lists of values: nothing decides between them here.
+/// \ingroup graph
 class ORBCHART_EXPORT OrbWhere : public OrbBaseElement {
 public:
   static constexpr XMLCh _UTF_where[] = u"where";

@@ -4,6 +4,7 @@
 #include "ctcoordinate.h"
 
 /// The x coordinate of a graphic element.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbX : public CTCoordinate {
 public:
   static constexpr XMLCh _UTF_x[] = u"x";

@@ -4,6 +4,7 @@
 #include "ctcoordinate.h"
 
 /// The y coordinate of a graphic element.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbY : public CTCoordinate {
 public:
   static constexpr XMLCh _UTF_y[] = u"y";

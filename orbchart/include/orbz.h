@@ -4,6 +4,7 @@
 #include "ctcoordinate.h"
 
 /// The z coordinate of a graphic element.
+/// \ingroup elements
 class ORBCHART_EXPORT OrbZ : public CTCoordinate {
 public:
   static constexpr XMLCh _UTF_z[] = u"z";

@@ -15,27 +15,28 @@ const XMLCh* nameOf(const AttributeDescription& attribute) { return attribute.na
 const XMLCh* nameOf(const FamilyDescription& family) { return family.child().name; }
 
 /// What comes from a base, without what a class has of its own by the same name, and then that.
-template <class Entry> std::vector<Entry> joined(std::vector<Entry> entries, std::span<const Entry> own) {
-  const auto isOwn = [&](const Entry& entry) {
+template <class Entry> std::vector<const Entry*> joined(std::vector<const Entry*> entries, std::span<const Entry> own) {
+  const auto isOwn = [&](const Entry* entry) {
     return std::any_of(own.begin(), own.end(),
-                       [&](const Entry& other) { return XMLString::equals(nameOf(entry), nameOf(other)); });
+                       [&](const Entry& other) { return XMLString::equals(nameOf(*entry), nameOf(other)); });
   };
   entries.erase(std::remove_if(entries.begin(), entries.end(), isOwn), entries.end());
-  entries.insert(entries.end(), own.begin(), own.end());
+  for (const Entry& entry : own)
+    entries.push_back(&entry);
   return entries;
 }
 
 } // namespace
 
-std::vector<AttributeDescription> attributesOf(const ElementDescription& element) {
-  std::vector<AttributeDescription> inherited;
+std::vector<const AttributeDescription*> attributesOf(const ElementDescription& element) {
+  std::vector<const AttributeDescription*> inherited;
   if (element.base != nullptr)
     inherited = attributesOf(element.base());
   return joined(std::move(inherited), element.attributes);
 }
 
-std::vector<FamilyDescription> familiesOf(const ElementDescription& element) {
-  std::vector<FamilyDescription> inherited;
+std::vector<const FamilyDescription*> familiesOf(const ElementDescription& element) {
+  std::vector<const FamilyDescription*> inherited;
   if (element.base != nullptr)
     inherited = familiesOf(element.base());
   return joined(std::move(inherited), element.families);

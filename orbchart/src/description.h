@@ -82,9 +82,9 @@ struct ElementDescription {
 };
 
 /// All attributes of an element: those of its base first, save what the class has of its own by that name.
-std::vector<AttributeDescription> attributesOf(const ElementDescription& element);
+std::vector<const AttributeDescription*> attributesOf(const ElementDescription& element);
 /// All families of an element in the same way.
-std::vector<FamilyDescription> familiesOf(const ElementDescription& element);
+std::vector<const FamilyDescription*> familiesOf(const ElementDescription& element);
 /// What a load of the element does with a child that is of none of its families.
 Unknown unknownChildrenOf(const ElementDescription& element);
 

@@ -39,7 +39,10 @@ OrbDocument::OrbDocument() : document_(nullptr), visualization_(nullptr), ownsDo
   visualization_ = wrapped(document_);
 }
 
-OrbDocument::OrbDocument(DOMDocument* document) : document_(document), visualization_(nullptr), ownsDocument_(false) {
+OrbDocument::OrbDocument(DOMDocument* document) : OrbDocument(document, Ownership::host) {}
+
+OrbDocument::OrbDocument(DOMDocument* document, Ownership ownership) :
+    document_(document), visualization_(nullptr), ownsDocument_(ownership == Ownership::own) {
   OrbUtility::Initialize();
   visualization_ = wrapped(document);
 }
