@@ -1,13 +1,8 @@
 // Bars: the mean body mass of the penguins by species and sex, the species in an order of their own.
+#include "parts.h"
 #include "penguindata.h"
 
 namespace {
-
-OrbStyle* addStyle(OrbVisualization& chart, const XMLCh* id) {
-  OrbStyle* style = chart.addStyle();
-  style->setId(id);
-  return style;
-}
 
 std::string makeChart(const host::Table& table) {
   OrbDocument document;

@@ -1,7 +1,7 @@
 // The penguins as a chart holds them: a source with their rows, and a variable for each column.
 #pragma once
 
-#include "host.h"
+#include "parts.h"
 
 /// What makeChart functions over the penguins start from.
 struct PenguinData {
@@ -27,23 +27,16 @@ struct PenguinData {
   OrbSourceVariable* sex;
 
 private:
-  OrbSourceVariable* add(OrbVisualization& chart, const XMLCh* id, const XMLCh* column, const XMLCh* label) const {
-    OrbSourceVariable* variable = chart.addSourceVariable(id);
-    variable->setSource(*source);
-    variable->setSourceName(column);
-    variable->setLabel(label);
-    return variable;
-  }
   OrbSourceVariable* addNominal(OrbVisualization& chart, const XMLCh* id, const XMLCh* column,
                                 const XMLCh* label) const {
-    OrbSourceVariable* variable = add(chart, id, column, label);
+    OrbSourceVariable* variable = addVariable(chart, *source, id, column, label);
     variable->setMeasurementLevel(CTVariableType::measurementLevel_nominal);
     variable->setCategorical(true);
     return variable;
   }
   OrbSourceVariable* addMeasured(OrbVisualization& chart, const XMLCh* id, const XMLCh* column,
                                  const XMLCh* label) const {
-    OrbSourceVariable* variable = add(chart, id, column, label);
+    OrbSourceVariable* variable = addVariable(chart, *source, id, column, label);
     variable->setMeasurementLevel(CTVariableType::measurementLevel_ratio);
     return variable;
   }

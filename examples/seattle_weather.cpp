@@ -1,54 +1,15 @@
 // The weather of Seattle in two graphs: the highest temperature of each day as a line, and the rain of each month.
-#include "host.h"
+#include "parts.h"
+#include "weatherdata.h"
 
 namespace {
-
-struct Weather {
-  Weather(OrbVisualization& chart, const host::Table& table) : source(chart.addEmbeddedSource(u"weather")) {
-    host::fillSource(*source, table, u"date;number;number;number;number;string");
-    date = add(chart, u"day", u"date", u"Day");
-    date->setInputDateFormatPattern(u"yyyy-MM-dd");
-    rain = add(chart, u"rain", u"precipitation", u"Precipitation in mm");
-    highest = add(chart, u"highest", u"temp_max", u"Highest temperature in °C");
-  }
-
-  OrbEmbeddedSource* source;
-  OrbSourceVariable* date;
-  OrbSourceVariable* rain;
-  OrbSourceVariable* highest;
-
-private:
-  OrbSourceVariable* add(OrbVisualization& chart, const XMLCh* id, const XMLCh* column, const XMLCh* label) const {
-    OrbSourceVariable* variable = chart.addSourceVariable(id);
-    variable->setSource(*source);
-    variable->setSourceName(column);
-    variable->setLabel(label);
-    variable->setMeasurementLevel(CTVariableType::measurementLevel_interval);
-    return variable;
-  }
-};
-
-OrbIntervalDomain* addDomain(OrbVisualization& chart, const XMLCh* id, const XMLCh* min, const XMLCh* max) {
-  OrbIntervalDomain* domain = chart.addIntervalDomain(id);
-  OrbRange* range = domain->addRange();
-  range->setMin(min);
-  range->setMax(max);
-  return domain;
-}
-
-OrbDimension* addDimension(OrbCoordinates& coordinates, const XMLCh* id, const OrbIntervalDomain& domain) {
-  OrbDimension* dimension = coordinates.addDimension();
-  dimension->setId(id);
-  dimension->setDomain(domain);
-  return dimension;
-}
 
 std::string makeChart(const host::Table& table) {
   OrbDocument document;
   OrbVisualization* chart = document.GetVisualization();
   chart->setVersion(2.9);
   chart->setName(u"The weather of Seattle");
-  const Weather weather(*chart, table);
+  const WeatherData weather(*chart, table);
 
   OrbIntervalDomain* years = addDomain(*chart, u"years", u"2012-01-01", u"2015-12-31");
   years->setDate(true);

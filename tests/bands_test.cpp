@@ -310,6 +310,8 @@ TEST(Bands, OfAVariableAndADimension) {
   dimension.addAxis()->setId(u"b");
   EXPECT_EQ(childrenOf(other.root()), "scale axis#a axis#b");
   EXPECT_EQ(messageOf([&] { dimension.addAxis(); }), "Dimension can have at most 2 axis children.");
+  EXPECT_EQ(messageOf([&] { dimension.addScale(OrbScale::method_linear); }),
+            "Can not add a Scale to a Dimension because 1 Scale(s) already exist(s).");
   EXPECT_FALSE(dimension.removeAxis(2));
   EXPECT_TRUE(dimension.removeAxis(0));
   EXPECT_TRUE(dimension.doesIdExist(u"a")) << "the id stays registered";

@@ -1,15 +1,12 @@
 // ChartString and the number text of formatter. Nothing here brings the XML platform up: the class works without it.
 #include "chartstring.h"
+#include "commalocale.h"
 #include "formatter.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <clocale>
 #include <cmath>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <limits>
 #include <locale>
 
@@ -310,25 +307,7 @@ void expectBothDecimalMarks() {
 
 TEST(ChartString, DoublesReadBothDecimalMarks) { expectBothDecimalMarks(); }
 
-/// Makes a locale whose decimal point is a comma, since few machines have one, and enters it.
-TEST(ChartString, DoublesReadBothDecimalMarksWhereTheLocaleHasAComma) {
-  std::string directory = testing::TempDir() + "orbchartXXXXXX";
-  ASSERT_NE(mkdtemp(directory.data()), nullptr);
-  const std::string source = directory + "/source", locale = directory + "/comma";
-  std::ofstream(source) << "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \".\"\ngrouping 3\nEND LC_NUMERIC\n";
-  const int status = std::system(("localedef -c -i " + source + " " + locale + " 2>/dev/null").c_str());
-  setenv("LOCPATH", directory.c_str(), 1);
-  const bool isEntered = std::setlocale(LC_NUMERIC, "comma");
-  if (isEntered) {
-    EXPECT_STREQ(std::localeconv()->decimal_point, ",");
-    expectBothDecimalMarks();
-    std::setlocale(LC_NUMERIC, "C");
-  }
-  unsetenv("LOCPATH");
-  std::filesystem::remove_all(directory);
-  if (!isEntered)
-    GTEST_SKIP() << "localedef ended with " << status << "; it needs the package locales";
-}
+TEST(ChartString, DoublesReadBothDecimalMarksWhereTheLocaleHasAComma) { test::inCommaLocale(expectBothDecimalMarks); }
 
 TEST(Formatter, SixteenDigitsOfGeneralNotation) {
   const std::pair<double, const char*> texts[] = {{0, "0"},

@@ -1,4 +1,5 @@
 // The text of data values: what ToString writes, and what the formatter makes of it for a document.
+#include "commalocale.h"
 #include "formatter.h"
 
 #include <gtest/gtest.h>
@@ -117,6 +118,20 @@ TEST(ToString, WritesTimesAndNames) {
     EXPECT_EQ(written(1, type, 8, 2), "fails") << type;
 }
 
+TEST(ToString, TakesTheDecimalMarkOfTheLocale) {
+  test::inCommaLocale([] {
+    EXPECT_EQ(written(1234.56, 5, 10, 2), "   1234,56");
+    EXPECT_EQ(written(1234.56, 5, 5, 2), " 1235");
+    EXPECT_EQ(written(1234567.891, 3, 14, 2), "  1.234.567,89");
+    EXPECT_EQ(written(-12.5, 15, 8, 2), "-0012,50");
+    EXPECT_EQ(written(1234.5, 17, 9, 2), " 1,23E+03");
+    EXPECT_EQ(written(90367.5, 21, 12, 3), "25:06:07,500");
+    EXPECT_EQ(grouped("1234567,8912"), "1,234,567,8912");
+    EXPECT_EQ(formatter::formattedTime(3661.5), "01:01:01.500");
+    EXPECT_EQ(formatter::formattedDate(moment(152385, 3661.5)), "2000-01-01T01:01:01,500") << "a date keeps its mark";
+  });
+}
+
 TEST(ToString, WritesCharactersAndRefusesNull) {
   OBS text;
   std::memcpy(text.text, "ab  c  d", 8);
@@ -146,7 +161,7 @@ TEST(Formatter, TrimsWhatToStringWrites) {
   EXPECT_EQ(value(1234.5, 5, 3, 1), "1234.5") << "a plain number is always 40 wide";
   EXPECT_EQ(value(1234.5, 5, 3, 1, ","), "1,234.5");
   EXPECT_EQ(value(1234.5, 5, 3, 1, ""), "1234.5");
-  EXPECT_EQ(value(1234.5, 31, 400, 1, "'"), "1'234.5%");
+  EXPECT_EQ(value(1234.5, 31, 260, 1, "'"), "1'234.5%");
   EXPECT_EQ(value(1234 * 86400.0, 25, 40, 0, ","), "1,234 00:00:00");
   EXPECT_EQ(value(1234.5, 3, 40, 1, "'"), "1,234.5") << "its own separators alone";
   EXPECT_EQ(value(missing, 5, 8, 2), "");

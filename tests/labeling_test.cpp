@@ -129,9 +129,13 @@ TEST(Labeling, HoldsOneScaleOneSummaryStatisticAndOneFormat) {
             "Can not add a SummaryStatistic to a Labeling because 1 SummaryStatistic(s) already exist(s).");
   EXPECT_EQ(messageOf([&] { labeling.addFormat(); }),
             "Can not add a Format to a Labeling because 2 Format(s) already exist(s).");
+  labeling.removeFormats();
+  labeling.addFormat();
+  EXPECT_EQ(messageOf([&] { labeling.addFormat(); }),
+            "Can not add a Format to a Labeling because 1 Format(s) already exist(s).");
   EXPECT_EQ(messageOf([&] { labeling.throwIfNotAlone("Thing"); }),
             "Can not add a SummaryStatistic to a Labeling because 1 Thing(s) already exist(s).");
-  EXPECT_EQ(childrenOf(parsed.root()), "scale summaryStatistic format format");
+  EXPECT_EQ(childrenOf(parsed.root()), "scale summaryStatistic format");
 }
 
 TEST(Labeling, HasTwoWrappersOfItsLoadedScales) {

@@ -130,6 +130,8 @@ TEST(EmbeddedSource, KeepsItsChildrenInOrder) {
   EXPECT_EQ(childrenOf(document.root()), "aggregate filter filter names types row dataReduction");
   EXPECT_EQ(messageOf([&] { source.addNames(); }),
             "Can not add a Names to a EmbeddedSource because 1 Names(s) already exist(s).");
+  EXPECT_EQ(messageOf([&] { source.addTypes(); }),
+            "Can not add a Types to a EmbeddedSource because 1 Types(s) already exist(s).");
   EXPECT_EQ(source.removeRows() + source.removeNamess() + source.removeTypess() + source.removeFilters(), 5U);
   source.addRow();
   source.addFilter();

@@ -14,7 +14,9 @@
 #include <memory>
 #include <sstream>
 #include <stdexcept>
+#include <streambuf>
 #include <string>
+#include <vector>
 
 using test::NewDocument;
 using test::Parsed;
@@ -254,24 +256,26 @@ TEST(Writer, LeavesOutWhatTheEncodingCannotHold) {
     const char* encoding;
     const XMLCh* text;
     const XMLCh* kept;
+    const char* lost; // the first that is
   } cases[] = {
       {"UTF-8",
        u"a\xd800"
        u"b\xdc00"
        u"c\U0001F600\xd800",
-       u"abc\U0001F600"},
+       u"abc\U0001F600", "D800"},
       {"UTF-16",
        u"\xdc00\xd800"
        u"a",
-       u"a"},
-      {"ISO-8859-1", u"\u00e9\u20ac\U0001F600x\xd800", u"\u00e9x"},
-      {"US-ASCII", u"\u00e9\u20ac", u""},
-      {"windows-1252", u"\u20ac\u3042\U00010041\uff02\uff1cx", u"\u20acx"},
-      {"Shift_JIS", u"\u3042\uff1c\u00e9x\U000D0000", u"\u3042\uff1cx"},
-      {"ISO-2022-JP", u"a\x1b\u3042\x0e\u00e9x", u"a\u3042x"},
-      {"GB18030", u"\u00e9\u3042\U0010FFFD\xd800", u"\u00e9\u3042\U0010FFFD"},
+       u"a", "DC00"},
+      {"ISO-8859-1", u"\u00e9\u20ac\U0001F600x\xd800", u"\u00e9x", "20AC"},
+      {"US-ASCII", u"\u00e9\u20ac", u"", "E9"},
+      {"windows-1252", u"\u20ac\u3042\U00010041\uff02\uff1cx", u"\u20acx", "3042"},
+      {"Shift_JIS", u"\u3042\uff1c\u00e9x\U000D0000", u"\u3042\uff1cx", "E9"},
+      {"ISO-2022-JP", u"a\x1b\u3042\x0e\u00e9x", u"a\u3042x", "1B"},
+      {"GB18030", u"\u00e9\u3042\U0010FFFD\xd800", u"\u00e9\u3042\U0010FFFD", "D800"},
+      {"ISO-8859-2", u"\U0001F600\u0111", u"\u0111", "1F600"},
   };
-  for (const auto& [encoding, text, kept] : cases) {
+  for (const auto& [encoding, text, kept, lost] : cases) {
     SCOPED_TRACE(encoding);
     const Declared encoded(encoding);
     DOMElement* element = encoded.document()->createElement(u"e");
@@ -283,7 +287,9 @@ TEST(Writer, LeavesOutWhatTheEncodingCannotHold) {
 
     const test::Log log;
     std::string bytes = flat(encoded.document());
-    EXPECT_EQ(log.messages().size(), 3u) << "one for each piece";
+    const std::vector<std::string> messages = log.messages();
+    ASSERT_EQ(messages.size(), 3u) << "one for each piece";
+    EXPECT_NE(messages[0].find(std::string("char 0x") + lost + " is"), std::string::npos) << messages[0];
     const Parsed again(bytes);
     const auto* read = static_cast<DOMElement*>(again.root()->getFirstChild());
     EXPECT_EQ(utf8(read->getAttribute(u"v")), utf8(kept));
@@ -403,6 +409,23 @@ TEST(Writer, GoesOnAfterAnXmlExceptionOfADerivedPrinter) {
   const Parsed parsed("<r><b/><c/></r>");
   const test::Log log;
   EXPECT_EQ(printed<Failing<xercesc::XMLException>>(false, parsed.document()), declaration + "<r><b/><c/></r>\n");
+  EXPECT_EQ(log.messages().size(), 1u);
+}
+
+/// Where nothing can be written.
+class FullBuffer : public std::streambuf {
+  int_type overflow(int_type) override {
+    throw xercesc::RuntimeException(__FILE__, __LINE__, xercesc::XMLExcepts::File_CouldNotWriteToFile);
+  }
+};
+
+TEST(Writer, ReportsAnXmlExceptionOfTheStream) {
+  const Parsed parsed("<r><c/></r>");
+  FullBuffer buffer;
+  std::ostream stream(&buffer);
+  stream.exceptions(std::ios::badbit);
+  const test::Log log;
+  EXPECT_FALSE(ChartPrinter().Print(parsed.document(), stream));
   EXPECT_EQ(log.messages().size(), 1u);
 }
 

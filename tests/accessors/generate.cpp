@@ -230,7 +230,8 @@ private:
         if (argument.empty())
           continue;
         const std::string call = "wrapper.set" + attribute + "(";
-        std::string lambdas = "[]([[maybe_unused]] Checked& checked, " + one.name + "& wrapper) { " + call + argument + "); }";
+        std::string lambdas =
+            "[]([[maybe_unused]] Checked& checked, " + one.name + "& wrapper) { " + call + argument + "); }";
         if (operation.arguments[0] == "bool")
           lambdas += ", [](Checked&, " + one.name + "& wrapper) { " + call + "false); }";
         write(operation.name, "sets", lambdas);

@@ -45,7 +45,45 @@ inline const std::set<std::string> oddGetters = {
     "OrbSwingController::Target",
 };
 
+/// Booleans that are true where the attribute is absent.
+inline const std::set<std::string> trueWhenAbsent = {
+    "OrbStyle::BaselineRotated", "OrbStyle::DepthRelativeToWidth", "OrbStyle::Gradient_isInverted",
+    "OrbStyle::IgnoreNewLines",  "OrbStyle::TwoCharacterVertical", "OrbStyle::Visible",
+};
+
 /// Removes that leave the elements.
 inline const std::set<std::string> oddRemoves = {"OrbDerivedVariable::ValueMapEntry"};
+
+/// Classes whose wrappers are registered under another name than their element's.
+inline const std::map<std::string, std::u16string> otherKeys = {{"OrbCategories2", u"categories"}};
+
+/// Classes whose constructors register nothing.
+inline const std::set<std::string> unregistered = {"OrbRelabel"};
+
+/// Families whose children lose their ids when they are removed. All others leave them registered.
+inline const std::map<std::string, std::set<std::string>> forgottenFamilies = {
+    {"OrbBlend", {"Blend", "Cross", "Nest"}},
+    {"OrbCoordinates", {"TransposeTransform"}},
+    {"OrbCross", {"Blend", "Cross", "Nest"}},
+    {"OrbCycle", {"Style"}},
+    {"OrbDescriptionGroup", {"Description", "Text"}},
+    {"OrbDimension", {"Axis", "Scale"}},
+    {"OrbFacetLayout", {"FacetLevel"}},
+    {"OrbFacetLevel", {"Axis"}},
+    {"OrbGraph",
+     {"Area", "Coordinates", "Edge", "FacetLayout", "Faceting", "FrameGuide", "FunctionGuide", "Interval", "Line",
+      "LineGuide", "Location", "Path", "PlaneGuide", "Point", "PointGuide", "Polygon", "Schema"}},
+    {"OrbLabelFrame", {"Label", "Location"}},
+    {"OrbLegend", {"Label", "LegendTarget", "Location"}},
+    {"OrbMajorTicks", {"Gridline"}},
+    {"OrbMinorTicks", {"Gridline"}},
+    {"OrbNest", {"Blend", "Cross", "Nest"}},
+    {"OrbStyle", {"Style"}},
+    {"OrbStyleCycle", {"Cycle"}},
+    {"OrbVisualization",
+     {"CategoricalDomain", "Container", "DatabaseSource", "DelimitedFileSource", "DerivedVariable", "DrillDown",
+      "EmbeddedSource", "ExpressionVariable", "Graph", "IntervalDomain", "LabelFrame", "Legend", "Location", "Popup",
+      "SourceVariable", "StreamingSource", "Style", "StyleCycle", "UserSource"}},
+};
 
 } // namespace test

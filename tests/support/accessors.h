@@ -36,7 +36,10 @@ public:
   using Set = void (*)(Accessors&, Declaring&);
 
   Accessors(const char* className, std::set<std::string> attributes) :
-      className_(className), attributes_(std::move(attributes)) {}
+      className_(className), attributes_(std::move(attributes)) {
+    if constexpr (requires { Wrapper::elementName; })
+      expectRegistration();
+  }
 
   /// A setter writes one attribute, that of its name. For a boolean both values are tried, since an absent one may read
   /// as either.
@@ -74,6 +77,9 @@ public:
       EXPECT_EQ(read(false, true), absent) << where(x) << " " << value;
     }
     EXPECT_TRUE(changes) << where(x) << ": the getter reads another attribute";
+    if constexpr (std::is_same_v<Result, bool>) {
+      EXPECT_EQ(get(*Place(*this).wrapper), trueWhenAbsent.count(key(x)) != 0) << where(x);
+    }
   }
 
   void isPresent(const std::string& x, bool (*isPresent)(const Declaring&)) {
@@ -94,21 +100,24 @@ public:
     EXPECT_EQ(left, expected.attributes()) << where(x);
   }
 
-  /// An add makes an element of its name, the getter gives its wrapper, and the remove takes it away.
+  /// An add makes an element of its name, the getter gives its wrapper, and the remove takes it away, in some families
+  /// with its id.
   template <class Child, class Result>
   void family(const std::string& x, Child* (*add)(Accessors&, Declaring&), Result (*get)(const Declaring&),
               unsigned int (*remove)(Declaring&)) {
     const Place place(*this);
     const OrbBaseElement* child = add(*this, *place.wrapper);
     ASSERT_NE(child, nullptr) << where(x);
-    const auto* element = child->getImplementation();
+    auto* element = child->getImplementation();
     EXPECT_EQ(element->getParentNode(), place.wrapper->getImplementation()) << where(x);
     EXPECT_EQ(inCapitals(utf8(element->getTagName())), xOf(x)) << where(x);
     EXPECT_TRUE(holds(get(*place.wrapper), child)) << where(x);
     if (isOdd(oddRemoves, x))
       return;
+    element->setAttribute(u"id", u"child");
     EXPECT_EQ(remove(*place.wrapper), 1U) << where(x);
     EXPECT_EQ(element->getParentNode(), nullptr) << where(x);
+    EXPECT_EQ(element->hasAttribute(u"id"), !isForgotten(x)) << where(x);
     EXPECT_FALSE(holds(get(*place.wrapper), child)) << where(x);
   }
 
@@ -119,6 +128,16 @@ public:
   }
 
 private:
+  /// References find a wrapper under the name of its element.
+  void expectRegistration() {
+    if (unregistered.count(className_) != 0)
+      return;
+    const Place place(*this);
+    const auto found = otherKeys.find(className_);
+    const XMLCh* key = found == otherKeys.end() ? Wrapper::elementName : found->second.c_str();
+    EXPECT_EQ(place.wrapper->getImplementation()->getUserData(key), place.wrapper.get()) << className_;
+  }
+
   template <class Target> const Target& makeTarget() {
     auto* element = document_->createElement(elementNameOf<Target>());
     document_->getDocumentElement()->appendChild(element);
@@ -183,6 +202,10 @@ private:
 
   std::string where(const std::string& x) const { return className_ + ": " + x; }
   std::string key(const std::string& x) const { return className_ + "::" + x; }
+  bool isForgotten(const std::string& x) const {
+    const auto found = forgottenFamilies.find(className_);
+    return found != forgottenFamilies.end() && found->second.count(x) != 0;
+  }
   bool isOdd(const std::set<std::string>& odd, const std::string& x) const { return odd.count(key(x)) != 0; }
   /// The X of the attribute or element that an accessor belongs to.
   std::string xOf(const std::string& x) const {
