@@ -1,5 +1,6 @@
 // Whole documents: wrapping, printing, adding and removing, beside plain Xerces doing the same work by hand.
 #include "support.h"
+#include "texts.h"
 
 #include <optional>
 
@@ -13,17 +14,8 @@ namespace {
 constexpr unsigned int manyRows = 200'000;
 constexpr XMLCh rowText[] = u"12.5;north;1999";
 
-/// A chart whose source has rows, as a file holds it: every element on its line.
-std::string chartText(unsigned int rows) {
-  std::string text = "<visualization>\n\t<!-- measured -->\n\t<embeddedSource id=\"data\">\n\t\t<!-- a table -->\n"
-                     "\t\t<names>value;region;year</names>\n\t\t<types>double;string;int</types>";
-  for (unsigned int row = 0; row < rows; ++row)
-    text += "\n\t\t<row>12.5;north;1999</row>";
-  return text + "\n\t</embeddedSource>\n</visualization>\n";
-}
-
 const std::string& manyRowsText() {
-  static const std::string text = chartText(manyRows);
+  static const std::string text = bench::rowsText(manyRows);
   return text;
 }
 
@@ -43,7 +35,7 @@ const std::string& manyStylesText() {
 }
 
 struct ParsedChart {
-  explicit ParsedChart(unsigned int rows) : parsed(rows == manyRows ? manyRowsText() : chartText(rows)) {}
+  explicit ParsedChart(unsigned int rows) : parsed(rows == manyRows ? manyRowsText() : bench::rowsText(rows)) {}
 
   bench::Parsed parsed;
   OrbDocument chart{parsed.document()};

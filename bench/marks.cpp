@@ -1,6 +1,7 @@
 // Graphs and their marks: loading, building, printing, references and memory, beside plain Xerces doing the same work
 // by hand.
 #include "support.h"
+#include "texts.h"
 
 #include <array>
 #include <optional>
@@ -13,54 +14,9 @@ using xercesc::DOMNode;
 namespace {
 
 constexpr unsigned int manyGraphs = 5'000;
-constexpr unsigned int marksOfAGraph = 3;
-
-// A chart with graphs, as a file holds it: every element on its line, but for what labels hold
-
-std::string markText(const std::string& name, unsigned int number) {
-  return "\n\t\t<" + name + " id=\"mark" + std::to_string(number) +
-         "\">\n\t\t\t<summaryStatistic method=\"mean\"/>\n\t\t\t<color variable=\"station\"/>"
-         "\n\t\t\t<x variable=\"month\"/>\n\t\t\t<y variable=\"rain\"/>\n\t\t</" +
-         name + ">";
-}
-
-std::string labelText(const std::string& text) { return "<label><text>" + text + "</text></label>"; }
-
-/// A dimension with its scale and its axis, whose ticks are drawn as is given.
-std::string dimensionText(const std::string& id, const std::string& title, const std::string& ticks) {
-  const std::string indent = "\n\t\t\t\t\t";
-  return "\n\t\t\t<dimension id=\"" + id + "\">\n\t\t\t\t<scale method=\"linear\"/>\n\t\t\t\t<axis>" + indent +
-         labelText(title) + indent + "<majorTicks position=\"outside\">" + indent + "\t<gridline/>" + indent + "\t" +
-         ticks + indent + "</majorTicks>" + indent + "<minorTicks number=\"4\"/>\n\t\t\t\t</axis>\n\t\t\t</dimension>";
-}
-
-std::string graphText(unsigned int graph) {
-  const std::string number = std::to_string(graph);
-  std::string text = "\n\t<graph id=\"graph" + number + "\">\n\t\t<coordinates id=\"coordinates" + number + "\">" +
-                     dimensionText("across" + number, "Month", labelText("1999")) +
-                     dimensionText("up" + number, "Rain", "<format maximumFractionDigits=\"2\"/>") +
-                     "\n\t\t</coordinates>\n\t\t<faceting>\n\t\t\t<cross>\n\t\t\t\t<variableReference ref=\"year\"/>"
-                     "\n\t\t\t\t<variableReference ref=\"station\"/>\n\t\t\t</cross>\n\t\t</faceting>";
-  for (unsigned int mark = graph * marksOfAGraph; mark < (graph + 1) * marksOfAGraph; ++mark)
-    text += markText(std::array{"point", "interval", "line"}[mark % 3], mark);
-  return text + "\n\t</graph>";
-}
-
-std::string chartText(const std::string& graphs) {
-  return "<visualization>\n\t<sourceVariable id=\"month\"/>\n\t<sourceVariable id=\"rain\"/>"
-         "\n\t<sourceVariable id=\"station\"/>\n\t<sourceVariable id=\"year\"/>" +
-         graphs + "\n</visualization>\n";
-}
-
-std::string graphsText(unsigned int count) {
-  std::string graphs;
-  for (unsigned int graph = 0; graph < count; ++graph)
-    graphs += graphText(graph);
-  return chartText(graphs);
-}
 
 const std::string& manyGraphsText() {
-  static const std::string text = graphsText(manyGraphs);
+  static const std::string text = bench::graphsText(manyGraphs);
   return text;
 }
 
@@ -126,7 +82,7 @@ void addGraphs(OrbVisualization& chart, unsigned int count) {
   const Variables variables(chart);
   for (unsigned int number = 0; number < count; ++number) {
     OrbGraph& graph = addFrame(chart, variables, number);
-    for (unsigned int mark = number * marksOfAGraph; mark < (number + 1) * marksOfAGraph; ++mark)
+    for (unsigned int mark = number * bench::marksOfAGraph; mark < (number + 1) * bench::marksOfAGraph; ++mark)
       fillMark(addMark(graph, mark), variables);
   }
 }
@@ -197,7 +153,7 @@ void putGraphsByHand(DOMElement& chart, unsigned int count) {
     putWithIdByHand(chart, u"sourceVariable", variable);
   for (unsigned int number = 0; number < count; ++number) {
     DOMElement& graph = putFrameByHand(chart, number);
-    for (unsigned int mark = number * marksOfAGraph; mark < (number + 1) * marksOfAGraph; ++mark)
+    for (unsigned int mark = number * bench::marksOfAGraph; mark < (number + 1) * bench::marksOfAGraph; ++mark)
       fillMarkByHand(putMarkByHand(graph, mark));
   }
 }
@@ -209,7 +165,7 @@ void checkGraphs() {
   addGraphs(*chart.GetVisualization(), 3);
   putGraphsByHand(*theirs.document()->getDocumentElement(), 3);
   bench::requireSame(*ours.document(), *theirs.document());
-  const bench::Parsed parsed(graphsText(3));
+  const bench::Parsed parsed(bench::graphsText(3));
   if (OrbDocument(parsed.document()).AsUTF8() != chart.AsUTF8())
     throw std::logic_error("the chart that is parsed and the one that is built differ");
 }
@@ -247,7 +203,7 @@ const std::string& marksText() {
       graph += "\n\t\t<point id=\"mark" + std::to_string(mark) +
                "\">\n\t\t\t<color variable=\"station\"/>\n\t\t\t<x variable=\"month\"/>"
                "\n\t\t\t<y variable=\"rain\"/>\n\t\t</point>";
-    return chartText(graph + "\n\t</graph>");
+    return bench::graphChartText(graph + "\n\t</graph>");
   }();
   return text;
 }

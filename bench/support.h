@@ -143,6 +143,17 @@ inline void compareBytes(const std::string& work, const std::string& beside, dou
   benchmark::RegisterBenchmark((work + " | " + beside).c_str(), compare)->UseManualTime()->Iterations(1);
 }
 
+/// A comparison of bytes, with a limit of their ratio.
+inline void compareSizes(const std::string& work, const std::string& beside, double limit, const Side& ours,
+                         const Side& theirs) {
+  const auto compare = [=](benchmark::State& state) {
+    const Figures figures = measured(state, ours, theirs);
+    table().push_back({work, beside, sizeText(figures.ours), sizeText(figures.theirs),
+                       judged(formatted("%.2f", figures.ratio), figures.ratio, limit), formatted("%.2f", limit)});
+  };
+  benchmark::RegisterBenchmark((work + " | " + beside).c_str(), compare)->UseManualTime()->Iterations(1);
+}
+
 /// Lets the heap keep what is given back to it: which side has to fetch its memory anew from the system would depend on
 /// what was measured before.
 inline void keepMemory() {
@@ -223,8 +234,8 @@ private:
   xercesc::DOMDocument* document_ = implementation()->createDocument(nullptr, u"visualization", nullptr);
 };
 
-/// Prints a document as Xerces does it, indented and as UTF-8, to memory.
-inline void serialize(const xercesc::DOMDocument& document, xercesc::MemBufFormatTarget& target) {
+/// Prints a document as Xerces does it, indented and as UTF-8.
+inline void serialize(const xercesc::DOMDocument& document, xercesc::XMLFormatTarget& target) {
   xercesc::DOMLSSerializer* serializer = implementation()->createLSSerializer();
   serializer->getDomConfig()->setParameter(xercesc::XMLUni::fgDOMWRTFormatPrettyPrint, true);
   xercesc::DOMLSOutput* output = implementation()->createLSOutput();

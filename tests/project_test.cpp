@@ -18,10 +18,11 @@ std::string contentOf(const std::filesystem::path& path) {
 
 } // namespace
 
-TEST(Project, TheReadmeShowsTheSmallestExampleAndWhatItPrints) {
+TEST(Project, TheReadmeShowsWhatTheProgramAndTheSmallestExamplePrint) {
   const std::string readme = contentOf(root / "README.md");
   EXPECT_NE(readme.find("```cpp\n" + contentOf(root / "examples/smallest.cpp") + "```"), std::string::npos);
   EXPECT_NE(readme.find("```xml\n" + contentOf(root / "examples/expected/smallest.xml") + "```"), std::string::npos);
+  EXPECT_NE(readme.find("```\n" + contentOf(root / "tests/orbml/readme.transcript") + "```"), std::string::npos);
 }
 
 TEST(Project, OneHeaderIncludesAllOthers) {

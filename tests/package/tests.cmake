@@ -36,6 +36,21 @@ orbchart_add_package_tests(static none -D BUILD_SHARED_LIBS=OFF ${same_objects})
 orbchart_add_package_tests(other_quvaiocv "liborbchart libother"
                            -D "ORBCHART_QUVAIOCV_LIBRARY=$<TARGET_FILE:orbchart_other_quvaiocv>" ${same_objects})
 
+# Debian's packages, where their tools are. The folders of the system are searched for what lies there.
+find_program(dpkg_deb dpkg-deb)
+find_program(dpkg_shlibdeps dpkg-shlibdeps)
+if(TARGET orbchart_orbml AND dpkg_deb AND dpkg_shlibdeps)
+  add_test(NAME package.debian.install
+           COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/package/debian_test" "${package_dir}/debian" "${PROJECT_BINARY_DIR}"
+                   "${PROJECT_VERSION}")
+  set_tests_properties(package.debian.install PROPERTIES FIXTURES_SETUP package.debian)
+  foreach(way IN ITEMS cmake pkg_config)
+    orbchart_add_package_test(debian.${way} ${way} "${package_dir}/debian" "liborbchart libquvaiocv")
+    set_property(TEST package.debian.${way} APPEND PROPERTY ENVIRONMENT "LD_LIBRARY_PATH=${package_dir}/debian/prefix/lib")
+    set_property(TEST package.debian.${way} PROPERTY FIXTURES_REQUIRED package.debian)
+  endforeach()
+endif()
+
 foreach(way IN ITEMS ctest_before ctest_after fetch_content everything)
   orbchart_add_package_test(subproject.${way} subproject "${package_dir}/${way}" ${way})
 endforeach()
