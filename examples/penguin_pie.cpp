@@ -1,4 +1,4 @@
-// A pie: how many penguins of each species, stacked around a polar plane, in colours of their own.
+// A pie: what share of the penguins each species has, stacked around a polar plane, in colours of their own.
 #include "parts.h"
 #include "penguindata.h"
 
@@ -56,8 +56,7 @@ std::string makeChart(const host::Table& table) {
   slices->setCoordinates(*plane);
   slices->setPositionModifier(CTElementType::positionModifier_stack);
   slices->addY()->setVariable(*penguins.species);
-  OrbSummaryStatistic* count = slices->addSummaryStatistic();
-  count->setMethod(OrbSummaryStatistic::method_percentCount);
+  slices->addSummaryStatistic()->setMethod(OrbSummaryStatistic::method_percentCount);
   colorBySpecies(*slices, penguins);
   patternBySpecies(*chart, *slices, penguins);
   slices->addLabeling()->setVariable(*penguins.species);

@@ -1,5 +1,6 @@
-// A dashboard: two graphs in containers of their own, a legend, a pop-up, brushing and a drill-down. It is printed as
-// it is, and again without its containers, its styles gathered under one and its legend in a container of legends.
+// A dashboard: two graphs in containers of their own, a legend, a pop-up, a drill-down, brushing, and lines that the
+// viewer draws. It is printed as it is, and again without its containers, its styles gathered under one and its legend
+// in a container of legends.
 #include "parts.h"
 #include "weatherdata.h"
 
@@ -67,7 +68,7 @@ OrbGraph* addRain(OrbContainer& half, const WeatherData& weather, const OrbDimen
   return graph;
 }
 
-/// What the viewer can do: read a value, mark days in both graphs, and open a day.
+/// What the viewer can do: read a value, open a day, mark days, and draw lines at days.
 void addInteraction(OrbVisualization& chart, const WeatherData& weather, const CTElementType& line,
                     const CTElementType& bars) {
   OrbPopup* popup = chart.addPopup();
@@ -87,6 +88,8 @@ void addInteraction(OrbVisualization& chart, const WeatherData& weather, const C
   OrbBrushing* brushing = chart.addBrushing();
   brushing->setTarget(bars);
   brushing->setSelectionMode(OrbBrushing::selectionMode_rectangle);
+
+  chart.addLineGuideController()->setNewLineOrientation(OrbLineGuideController::newLineOrientation_x);
 }
 
 void addLegend(OrbVisualization& chart, const OrbColor& colors) {

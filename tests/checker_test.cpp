@@ -431,7 +431,8 @@ TEST(Checker, AgreesWithTheReader) {
   for (unsigned int i = 0; i <= 10'000; ++i)
     attributes += " xmlns:a" + std::to_string(i) + "='u'";
   const std::string xml = "<visualization><graph" + attributes + "/></visualization>";
-  EXPECT_EQ(messageOf([&] { ChartReader::readText(xml, "x"); }), "x:1:16: there are more than 10000 attributes in one element");
+  EXPECT_EQ(messageOf([&] { ChartReader::readText(xml, "x"); }),
+            "x:1:16: there are more than 10000 attributes in one element");
   EXPECT_EQ(findings(xml), Lines{"1:16: error: there are more than 10000 attributes in one element"});
 }
 

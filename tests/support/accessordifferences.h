@@ -54,11 +54,11 @@ inline const std::set<std::string> trueWhenAbsent = {
 /// Removes that leave the elements.
 inline const std::set<std::string> oddRemoves = {"OrbDerivedVariable::ValueMapEntry"};
 
-/// Classes whose wrappers are registered under another name than their element's.
-inline const std::map<std::string, std::u16string> otherKeys = {{"OrbCategories2", u"categories"}};
+/// Elements whose wrappers are registered under another name than theirs.
+inline const std::map<std::string, std::u16string> otherKeys = {{"categories2", u"categories"}};
 
-/// Classes whose constructors register nothing.
-inline const std::set<std::string> unregistered = {"OrbRelabel"};
+/// Elements whose wrappers register themselves nowhere.
+inline const std::set<std::string> unregistered = {"relabel"};
 
 /// Families whose children lose their ids when they are removed. All others leave them registered.
 inline const std::map<std::string, std::set<std::string>> forgottenFamilies = {

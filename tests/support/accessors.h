@@ -38,7 +38,7 @@ public:
   Accessors(const char* className, std::set<std::string> attributes) :
       className_(className), attributes_(std::move(attributes)) {
     if constexpr (requires { Wrapper::elementName; })
-      expectRegistration();
+      expectRegistration(Place(*this).wrapper.get());
   }
 
   /// A setter writes one attribute, that of its name. For a boolean both values are tried, since an absent one may read
@@ -106,8 +106,9 @@ public:
   void family(const std::string& x, Child* (*add)(Accessors&, Declaring&), Result (*get)(const Declaring&),
               unsigned int (*remove)(Declaring&)) {
     const Place place(*this);
-    const OrbBaseElement* child = add(*this, *place.wrapper);
+    const Child* child = add(*this, *place.wrapper);
     ASSERT_NE(child, nullptr) << where(x);
+    expectRegistration(child);
     auto* element = child->getImplementation();
     EXPECT_EQ(element->getParentNode(), place.wrapper->getImplementation()) << where(x);
     EXPECT_EQ(inCapitals(utf8(element->getTagName())), xOf(x)) << where(x);
@@ -129,13 +130,14 @@ public:
 
 private:
   /// References find a wrapper under the name of its element.
-  void expectRegistration() {
-    if (unregistered.count(className_) != 0)
+  template <class Class> void expectRegistration(const Class* wrapper) const {
+    const auto* element = wrapper->getImplementation();
+    const std::string name = utf8(element->getTagName());
+    if (unregistered.count(name) != 0)
       return;
-    const Place place(*this);
-    const auto found = otherKeys.find(className_);
-    const XMLCh* key = found == otherKeys.end() ? Wrapper::elementName : found->second.c_str();
-    EXPECT_EQ(place.wrapper->getImplementation()->getUserData(key), place.wrapper.get()) << className_;
+    const auto found = otherKeys.find(name);
+    EXPECT_EQ(element->getUserData(found == otherKeys.end() ? element->getTagName() : found->second.c_str()), wrapper)
+        << where(name);
   }
 
   template <class Target> const Target& makeTarget() {
