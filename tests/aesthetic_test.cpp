@@ -1,5 +1,6 @@
 // The aesthetics: their numberings, loaders, limits and references, and what attaches an element to a target.
 #include "dom.h"
+#include "elements.h"
 #include "keywords.h"
 #include "orbattach.h"
 #include "orbcategoricaldomain.h"
@@ -34,6 +35,8 @@
 #include <cmath>
 #include <string>
 
+using test::addElement;
+using test::attributeOf;
 using test::childrenOf;
 using test::expectKeywords;
 using test::messageOf;
@@ -43,16 +46,6 @@ using test::utf8;
 using xercesc::DOMElement;
 
 namespace {
-
-DOMElement* addElement(const NewDocument& document, const XMLCh* name, const XMLCh* id) {
-  DOMElement* element = document.document()->createElement(name);
-  document.root()->appendChild(element);
-  element->setAttribute(u"id", id);
-  element->setIdAttribute(u"id", true);
-  return element;
-}
-
-std::string attributeOf(const OrbBaseElement& wrapper, const XMLCh* name) { return utf8(wrapper.GetAttribute(name)); }
 
 TEST(Aesthetic, KeywordsAreNumberedClassByClass) {
   const std::string parts = "both main secondary stroke fill";

@@ -1,5 +1,6 @@
 // Axes, ticks, grid lines and labels: numberings, where their children go, limits, ids and loading.
 #include "dom.h"
+#include "elements.h"
 #include "keywords.h"
 #include "orbalternatelabel.h"
 #include "orbaxis.h"
@@ -25,6 +26,7 @@
 #include <utility>
 #include <vector>
 
+using test::attributeOf;
 using test::childrenOf;
 using test::expectKeywords;
 using test::messageOf;
@@ -34,8 +36,6 @@ using test::refuses;
 using test::utf8;
 
 namespace {
-
-std::string attributeOf(const OrbBaseElement& wrapper, const XMLCh* name) { return utf8(wrapper.GetAttribute(name)); }
 
 /// The adds of an axis in the order of their elements.
 const std::vector<std::pair<std::string, std::function<void(OrbAxis&)>>> axisAdds = {

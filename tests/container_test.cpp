@@ -1,6 +1,7 @@
 // Containers and frames: where their children go, what a removal does to ids, loading, and locations.
 #include "ctframe.h"
 #include "dom.h"
+#include "elements.h"
 #include "keywords.h"
 #include "orbcontainer.h"
 #include "orbcontrolframe.h"
@@ -22,6 +23,7 @@
 #include <cstring>
 #include <functional>
 
+using test::addElement;
 using test::childrenOf;
 using test::expectKeywords;
 using test::messageOf;
@@ -40,14 +42,6 @@ template <class Wrapper> struct New {
   const NewDocument document{Wrapper::elementName};
   Wrapper wrapper{document.root()};
 };
-
-/// An element with an id that the document knows, directly below the root.
-DOMElement* addElement(const NewDocument& document, const XMLCh* name, const XMLCh* id) {
-  DOMElement* element = document.document()->createElement(name);
-  document.root()->appendChild(element);
-  OrbBaseElement(element).addID(id);
-  return element;
-}
 
 /// The place of a virtual operation among those of its class, as a pointer to it holds it.
 template <class Operation> std::uintptr_t slotOf(Operation operation) {

@@ -1,5 +1,6 @@
 // Guides and legends: where their children go, limits, ids, loading, and the references of what a legend explains.
 #include "dom.h"
+#include "elements.h"
 #include "keywords.h"
 #include "orbcategoricaldomain.h"
 #include "orbconditionalstyle.h"
@@ -29,6 +30,8 @@
 #include <string>
 #include <vector>
 
+using test::addElement;
+using test::attributeOf;
 using test::childrenOf;
 using test::expectKeywords;
 using test::messageOf;
@@ -39,15 +42,6 @@ using test::utf8;
 using xercesc::DOMElement;
 
 namespace {
-
-std::string attributeOf(const OrbBaseElement& wrapper, const XMLCh* name) { return utf8(wrapper.GetAttribute(name)); }
-
-DOMElement* addElement(const NewDocument& document, const XMLCh* name, const XMLCh* id) {
-  DOMElement* element = document.document()->createElement(name);
-  document.root()->appendChild(element);
-  OrbBaseElement(element).addID(id);
-  return element;
-}
 
 /// Whether the document forgets the id of a child when it is removed.
 template <class Wrapper, class Child>

@@ -1,6 +1,7 @@
 // The layout of facets and of nodes: the order and the limits of its children, and what a cell's property is set on.
 #include "chartstring.h"
 #include "dom.h"
+#include "elements.h"
 #include "keywords.h"
 #include "orbalternating.h"
 #include "orbarea.h"
@@ -40,6 +41,7 @@
 
 #include <gtest/gtest.h>
 
+using test::addElement;
 using test::childrenOf;
 using test::expectKeywords;
 using test::messageOf;
@@ -50,13 +52,6 @@ using test::utf8;
 using xercesc::DOMElement;
 
 namespace {
-
-DOMElement* addElement(const NewDocument& document, const XMLCh* name, const XMLCh* id) {
-  auto* element = static_cast<DOMElement*>(document.root()->appendChild(document.document()->createElement(name)));
-  element->setAttribute(u"id", id);
-  element->setIdAttribute(u"id", true);
-  return element;
-}
 
 /// A class that registers under a name and looks at no child.
 template <class Wrapper> void expectLeaf(const std::string& name) {

@@ -1,5 +1,6 @@
 // Mappings of values, style cycles, and the ranges of aesthetics as views.
 #include "dom.h"
+#include "elements.h"
 #include "orbbooleanmapping.h"
 #include "orbcolor.h"
 #include "orbcolorcomponent.h"
@@ -40,6 +41,7 @@
 #include <string>
 #include <vector>
 
+using test::attributeOf;
 using test::childrenOf;
 using test::NewDocument;
 using test::Parsed;
@@ -47,8 +49,6 @@ using test::refuses;
 using test::utf8;
 
 namespace {
-
-std::string attributeOf(const OrbBaseElement& wrapper, const XMLCh* name) { return utf8(wrapper.GetAttribute(name)); }
 
 /// An aesthetic loads its mappings, in their order and among whatever else it loads, adds them at the end, and takes
 /// them away with their ids registered.

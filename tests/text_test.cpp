@@ -1,6 +1,7 @@
 // Texts, affixes, paragraphs and descriptions: how texts are read and replaced, numberings, ids and targets.
 #include "chartstring.h"
 #include "dom.h"
+#include "elements.h"
 #include "keywords.h"
 #include "orbaffix.h"
 #include "orbarea.h"
@@ -24,6 +25,7 @@
 
 #include <string>
 
+using test::attributeOf;
 using test::childrenOf;
 using test::expectKeywords;
 using test::messageOf;
@@ -33,8 +35,6 @@ using test::refuses;
 using test::utf8;
 
 namespace {
-
-std::string attributeOf(const OrbBaseElement& wrapper, const XMLCh* name) { return utf8(wrapper.GetAttribute(name)); }
 
 template <class Wrapper> void expectJoinedText() {
   const std::string name = utf8(Wrapper::elementName);

@@ -16,9 +16,8 @@ using namespace orbchart;
 namespace {
 
 constexpr Id id;
-constexpr Keywords method{
-    OrbUni::_method, AbsentReadsAs(OrbStatisticSort::method_mean),
-    numberedSummaries<OrbStatisticSort::method_mean, OrbStatisticSort::method_fractionTrue>.table};
+constexpr Keywords method{OrbUni::_method, AbsentReadsAs(OrbStatisticSort::method_mean),
+                          numberedSummaries<OrbStatisticSort::method_mean, OrbStatisticSort::method_fractionTrue>};
 constexpr Boolean descending{OrbUni::_descending};
 constexpr Taking<CTVariableType, Reference<OrbSourceVariable>> sourceVariable{OrbUni::_sourceVariable};
 constexpr Taking<CTVariableType, Reference<OrbSourceVariable>> statVariable{OrbUni::_statVariable};

@@ -12,9 +12,8 @@ using namespace orbchart;
 namespace {
 
 constexpr Id id;
-constexpr Keywords method{
-    OrbUni::_method, OrbSummaryStatistic::method_unset,
-    numberedSummaries<OrbSummaryStatistic::method_mean, OrbSummaryStatistic::method_seSkewness>.table};
+constexpr Keywords method{OrbUni::_method, OrbSummaryStatistic::method_unset,
+                          numberedSummaries<OrbSummaryStatistic::method_mean, OrbSummaryStatistic::method_seSkewness>};
 constexpr Double percent{OrbUni::_percent};
 constexpr Keywords summaryBase{OrbSummaryStatistic::_UTF_summaryBase,
                                OrbSummaryStatistic::summaryBase_unset,

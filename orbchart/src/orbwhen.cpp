@@ -13,7 +13,7 @@ namespace {
 
 constexpr Id id;
 constexpr Keywords summary{OrbWhen::_UTF_summary, OrbWhen::summary_unset,
-                           numberedSummaries<OrbWhen::summary_mean, OrbWhen::summary_fractionTrue>.table};
+                           numberedSummaries<OrbWhen::summary_mean, OrbWhen::summary_fractionTrue>};
 constexpr Double min{OrbUni::_min};
 constexpr Double max{OrbUni::_max};
 

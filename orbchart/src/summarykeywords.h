@@ -1,11 +1,9 @@
 // The keywords of the summaries: one list, which several enumerations number each in its own way.
 #pragma once
 
-#include "keyword.h"
+#include "numberedkeywords.h"
 #include "orbsummarystatistic.h"
 #include "orbuni.h"
-
-#include <iterator>
 
 namespace orbchart {
 
@@ -50,17 +48,7 @@ inline constexpr const XMLCh* allSummaries[] = {
     OrbSummaryStatistic::VSS_seSkewness,
 };
 
-/// The keyword table of an enumeration that takes the list from its beginning, by its first and its last number.
-template <auto first, auto last> struct NumberedSummaries {
-  static_assert(last - first < std::ssize(allSummaries));
-
-  constexpr NumberedSummaries() {
-    for (int index = 0; index <= last - first; ++index)
-      table[index] = {static_cast<decltype(first)>(first + index), allSummaries[index]};
-  }
-
-  Keyword<decltype(first)> table[last - first + 1] = {};
-};
-template <auto first, auto last> inline constexpr NumberedSummaries<first, last> numberedSummaries;
+/// The table of an enumeration that takes the list from its beginning, by its first and its last number.
+template <auto first, auto last> inline constexpr auto& numberedSummaries = numbered<allSummaries, first, last>.table;
 
 } // namespace orbchart
